@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/FileUrl.h"
+#include "text/Result.h"
+
+namespace glossmill {
+
+enum class EntryKind { Missing, File, Directory };
+
+/// One entry of a directory listing. `kind` is that of a link's target; a broken link is Missing.
+struct DirectoryEntry {
+  std::string name;
+  EntryKind kind = EntryKind::Missing;
+  bool isLink = false;
+};
+
+/// Tells whether two paths lead to the same directory.
+struct FileIdentity {
+  std::uint64_t device = 0;
+  std::uint64_t node = 0;
+  bool operator==(const FileIdentity&) const = default;
+};
+
+/// An open file that is read from front to back.
+class ByteReader {
+ public:
+  virtual ~ByteReader() = default;
+  /// Fills `buffer` as far as it can; 0 means the end of the file.
+  virtual Result<std::size_t> read(std::span<char> buffer) = 0;
+};
+
+/// What the scan needs of a disk. Called from any thread.
+class FileReading {
+ public:
+  virtual ~FileReading() = default;
+  /// One level, hidden entries (names that begin with a dot) left out, sorted by the bytes of the names.
+  virtual Result<std::vector<DirectoryEntry>> list(const FileUrl& directory) = 0;
+  virtual EntryKind kindOf(const FileUrl& url) = 0;
+  virtual std::optional<FileIdentity> identityOf(const FileUrl& url) = 0;
+  virtual Result<std::unique_ptr<ByteReader>> open(const FileUrl& file) = 0;
+};
+
+/// The whole disk. Called from the main thread.
+class Files : public FileReading {
+ public:
+  /// Creates one directory, and those above it when asked to. An existing directory is an error without `intermediate`.
+  virtual Outcome createDirectory(const FileUrl& directory, bool intermediate) = 0;
+  /// Writes the text as UTF-8 without a mark: to a temporary file in the same directory, flushed, then renamed over the
+  /// target. Permissions are kept, a link is written through. After an error the former file is whole. Text that is not
+  /// valid UTF-8 is an error.
+  virtual Outcome writeText(const FileUrl& file, std::string_view text) = 0;
+};
+
+}  // namespace glossmill

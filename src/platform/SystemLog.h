@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+namespace glossmill {
+
+/// The log of the operating system, for diagnostic lines. Any thread.
+class SystemLog {
+ public:
+  virtual ~SystemLog() = default;
+  /// One message, without a final line feed; it may hold line feeds of its own.
+  virtual void write(std::string_view message) = 0;
+};
+
+}  // namespace glossmill

@@ -1,0 +1,164 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "text/Utf8.h"
+
+namespace glossmill {
+namespace {
+
+std::string utf8Of(char32_t codePoint) {
+  std::string text;
+  appendUtf8(text, codePoint);
+  return text;
+}
+
+/// The outermost code points that take two, three and four bytes, and those next to the surrogates.
+constexpr std::u32string_view kSeveralByteBoundaries = U"\x80\x7FF\x800\xD7FF\xE000\xFFFF\x10000\x10FFFF";
+
+bool isSurrogate(char32_t codePoint) {
+  return codePoint >= 0xD800 && codePoint <= 0xDFFF;
+}
+
+TEST(AppendUtf8, ChangesItsLengthAtTheBoundaries) {
+  EXPECT_EQ(utf8Of(0), std::string(1, '\0'));
+  EXPECT_EQ(utf8Of(0x7F), "\x7F");
+  EXPECT_EQ(utf8Of(0x80), "\xC2\x80");
+  EXPECT_EQ(utf8Of(0x7FF), "\xDF\xBF");
+  EXPECT_EQ(utf8Of(0x800), "\xE0\xA0\x80");
+  EXPECT_EQ(utf8Of(0xFFFF), "\xEF\xBF\xBF");
+  EXPECT_EQ(utf8Of(0x10000), "\xF0\x90\x80\x80");
+  EXPECT_EQ(utf8Of(0x10FFFF), "\xF4\x8F\xBF\xBF");
+}
+
+TEST(AppendUtf8, AppendsToWhatIsThere) {
+  std::string text = "a";
+  appendUtf8(text, 0x20AC);
+  EXPECT_EQ(text, "a\xE2\x82\xAC");
+}
+
+TEST(AppendUtf8, EncodesALoneSurrogateInThreeBytes) {
+  EXPECT_EQ(utf8Of(0xD800), "\xED\xA0\x80");
+}
+
+TEST(TakeCodePoint, ReadsBackEveryCodePoint) {
+  for (char32_t codePoint = 0; codePoint <= 0x10FFFF; ++codePoint) {
+    if (isSurrogate(codePoint)) continue;
+    const std::string text = utf8Of(codePoint) + "x";
+    std::string_view rest = text;
+    ASSERT_EQ(takeCodePoint(rest), codePoint);
+    ASSERT_EQ(rest, "x");
+  }
+}
+
+TEST(ValidUtf8, HoldsEveryCodePointButSurrogates) {
+  for (char32_t codePoint = 0; codePoint <= 0x10FFFF; ++codePoint) {
+    ASSERT_EQ(isValidUtf8(utf8Of(codePoint)), !isSurrogate(codePoint)) << static_cast<unsigned>(codePoint);
+  }
+}
+
+TEST(ValidUtf8, HoldsTheEmptyText) {
+  EXPECT_TRUE(isValidUtf8(""));
+}
+
+struct MalformedCase {
+  const char* what;
+  std::string bytes;
+};
+
+const std::vector<MalformedCase>& malformedCases() {
+  static const std::vector<MalformedCase> cases = {
+      {"a continuation byte alone, lowest", "\x80"},
+      {"a continuation byte alone, highest", "\xBF"},
+      {"overlong, two bytes, lowest", "\xC0\x80"},
+      {"overlong, two bytes, highest", "\xC1\xBF"},
+      {"overlong, three bytes, lowest", "\xE0\x80\x80"},
+      {"overlong, three bytes, highest", "\xE0\x9F\xBF"},
+      {"overlong, four bytes, lowest", "\xF0\x80\x80\x80"},
+      {"overlong, four bytes, highest", "\xF0\x8F\xBF\xBF"},
+      {"the first surrogate", "\xED\xA0\x80"},
+      {"the last high surrogate", "\xED\xAF\xBF"},
+      {"the first low surrogate", "\xED\xB0\x80"},
+      {"the last surrogate", "\xED\xBF\xBF"},
+      {"a surrogate pair in six bytes", "\xED\xA0\xBD\xED\xBA\xA2"},
+      {"just above U+10FFFF", "\xF4\x90\x80\x80"},
+      {"far above U+10FFFF", "\xF7\xBF\xBF\xBF"},
+      {"a lead byte beyond the last", "\xF5\x80\x80\x80"},
+      {"a sequence of five bytes", "\xF8\x88\x80\x80\x80"},
+      {"a sequence of six bytes", "\xFC\x84\x80\x80\x80\x80"},
+      {"the byte FE", "\xFE"},
+      {"the byte FF", "\xFF"},
+      {"two bytes, second is ASCII", "\xC3z"},
+      {"two bytes, second is a lead byte", "\xC3\xC3"},
+      {"three bytes, third is ASCII", "\xE2\x82z"},
+      {"three bytes, third is a lead byte", "\xE2\x82\xC3"},
+      {"four bytes, third is ASCII", "\xF0\x9Fzz"},
+      {"four bytes, fourth is ASCII", "\xF0\x9F\x9Az"},
+      {"four bytes, fourth is a lead byte", "\xF0\x9F\x9A\xF0"},
+  };
+  return cases;
+}
+
+TEST(ValidUtf8, RejectsEveryMalformedSequence) {
+  for (const MalformedCase& malformed : malformedCases()) {
+    EXPECT_FALSE(isValidUtf8(malformed.bytes)) << malformed.what;
+    EXPECT_EQ(validUtf8Prefix(malformed.bytes), 0U) << malformed.what;
+  }
+}
+
+TEST(ValidUtf8, EndsBeforeAMalformedSequenceAtEveryPlace) {
+  for (const MalformedCase& malformed : malformedCases()) {
+    for (std::size_t place = 0; place <= 70; ++place) {
+      const std::string ascii(place, 'a');
+      EXPECT_EQ(validUtf8Prefix(ascii + malformed.bytes + ascii), place) << malformed.what;
+    }
+    EXPECT_EQ(validUtf8Prefix("\xC3\xA4\xE2\x82\xAC" + malformed.bytes), 5U) << malformed.what;
+  }
+}
+
+TEST(ValidUtf8, PassesSequencesAmongAsciiAtEveryPlace) {
+  for (std::size_t place = 0; place <= 70; ++place) {
+    const std::string ascii(place, 'a');
+    for (const char32_t codePoint : std::u32string_view(U"ä€\U0001F6A2")) {
+      const std::string text = ascii + utf8Of(codePoint) + ascii + utf8Of(codePoint);
+      EXPECT_EQ(validUtf8Prefix(text), text.size());
+    }
+  }
+}
+
+TEST(ValidUtf8, LeavesOutASequenceCutOffByTheEnd) {
+  for (const char32_t codePoint : kSeveralByteBoundaries) {
+    const std::string whole = utf8Of(codePoint);
+    for (std::size_t length = 1; length < whole.size(); ++length) {
+      EXPECT_EQ(validUtf8Prefix("ab" + whole.substr(0, length)), 2U);
+    }
+  }
+}
+
+TEST(CutUtf8Sequence, IsEveryBeginningOfASequence) {
+  for (const char32_t codePoint : kSeveralByteBoundaries) {
+    const std::string whole = utf8Of(codePoint);
+    for (std::size_t length = 1; length < whole.size(); ++length) {
+      EXPECT_TRUE(isCutUtf8Sequence(whole.substr(0, length))) << static_cast<unsigned>(codePoint);
+    }
+  }
+}
+
+TEST(CutUtf8Sequence, IsNeitherEmptyNorAsciiNorWhole) {
+  EXPECT_FALSE(isCutUtf8Sequence(""));
+  EXPECT_FALSE(isCutUtf8Sequence("a"));
+  EXPECT_FALSE(isCutUtf8Sequence("\xC3\xA4"));
+  EXPECT_FALSE(isCutUtf8Sequence("\xE2\x82\xAC"));
+  EXPECT_FALSE(isCutUtf8Sequence("\xF0\x9F\x9A\xA2"));
+}
+
+TEST(CutUtf8Sequence, IsNotTheBeginningOfAMalformedOne) {
+  for (const char* bytes : {"\x80", "\xC0", "\xC1", "\xE0\x9F", "\xED\xA0", "\xF0\x8F", "\xF4\x90", "\xF5", "\xFF",
+                            "\xE2z", "\xF0\x9Fz", "\xE2\x82\xAC\xE2"}) {
+    EXPECT_FALSE(isCutUtf8Sequence(bytes)) << bytes;
+  }
+}
+
+}  // namespace
+}  // namespace glossmill
