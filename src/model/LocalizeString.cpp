@@ -1,0 +1,92 @@
+#include "model/LocalizeString.h"
+
+#include "model/Language.h"
+#include "platform/NotificationCenter.h"
+#include "text/Format.h"
+
+namespace glossmill {
+
+std::string LocalizeString::sourceList() const {
+  std::string list;
+  for (const FileUrl& file : m_filesArray) {
+    if (list.empty()) {
+      list = file.lastPathComponent();
+    } else {
+      list += formatText(", %@", {file.lastPathComponent()});
+    }
+  }
+  return list;
+}
+
+std::string LocalizeString::comment() const {
+  std::string joined;
+  for (const std::string& comment : m_commentArray) {
+    if (joined.empty()) {
+      joined = comment;
+    } else {
+      joined += formatText("\n%@", {comment});
+    }
+  }
+  return joined;
+}
+
+std::string LocalizeString::incompleteString(const Bundle& bundle) {
+  return bundle.localizedString("Incomplete");
+}
+
+std::string LocalizeString::completeString(const Bundle& bundle) {
+  return bundle.localizedString("Complete");
+}
+
+std::string LocalizeString::automaticString(const Bundle& bundle) {
+  return bundle.localizedString("Automatic");
+}
+
+std::string LocalizeString::ignoredString(const Bundle& bundle) {
+  return bundle.localizedString("Ignored");
+}
+
+const std::string& LocalizeString::status(const StatusTexts& texts, const ProjectContext* project) const {
+  if (!project) return texts.incompleteString;
+  const auto count = static_cast<std::int64_t>(m_languagesDict.count());
+  return project->totalLanguages() == count ? texts.completeString : texts.incompleteString;
+}
+
+std::string LocalizeString::statusString(const StatusTexts& texts, const ProjectContext* project) const {
+  if (!project) return texts.incompleteString;
+  const std::int64_t missing = project->totalLanguages() - static_cast<std::int64_t>(m_languagesDict.count());
+  return missing == 0 ? texts.completeString : texts.missingString(missing);
+}
+
+std::string LocalizeString::translationForSelectedString(const ProjectContext* project) const {
+  if (!project) return {};
+  const std::shared_ptr<LocalizeString> record = project->selectedString();
+  const std::shared_ptr<Language> language = project->selectedLanguage();
+  if (!record || !language) return {};
+  return std::string(record->languagesDict().find(language->code()).value_or(std::string_view()));
+}
+
+void LocalizeString::setTranslationForSelectedString(std::string_view text, ProjectContext* project) {
+  if (!project) return;
+  const std::shared_ptr<LocalizeString> record = project->selectedString();
+  const std::shared_ptr<Language> language = project->selectedLanguage();
+  if (!record || !language) return;
+
+  LanguagesDict& dict = record->languagesDict();
+  const bool present = dict.contains(language->code());
+  if (present && !text.empty()) {
+    // One text replaces another: deliberately no notification, so the project does not count as changed.
+    dict.set(language->code(), text);
+    return;
+  }
+  if (!present && text.empty()) return;
+  if (present) {
+    dict.remove(language->code());
+  } else {
+    dict.set(language->code(), text);
+  }
+  project->translationCountChanged(language->code(), present ? -1 : 1);
+  project->notifications().post(kTranslationChangedNotification, record.get());
+}
+
+}  // namespace glossmill

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/LanguagesDict.h"
+#include "model/ProjectContext.h"
+#include "model/StatusTexts.h"
+#include "platform/FileUrl.h"
+
+namespace glossmill {
+
+/// One localizable string of the project: its key, where and with which comments it was found, and its translations.
+/// All text is raw, as it stands between the quotes of the source. Built on the scan's thread, then used on the main
+/// thread.
+class LocalizeString {
+ public:
+  /// A record with use count 1 and nothing else. The arena, when given, keeps the translations.
+  explicit LocalizeString(std::shared_ptr<TextArena> arena = nullptr) : m_languagesDict(std::move(arena)) {}
+
+  const std::string& name() const { return m_name; }
+  void setName(std::string_view name) { m_name = name; }
+  const std::string& language() const { return m_language; }
+  void setLanguage(std::string_view language) { m_language = language; }
+  std::int64_t useCount() const { return m_useCount; }
+  void setUseCount(std::int64_t count) { m_useCount = count; }
+  std::vector<std::string>& commentArray() { return m_commentArray; }
+  const std::vector<std::string>& commentArray() const { return m_commentArray; }
+  void setCommentArray(std::vector<std::string> comments) { m_commentArray = std::move(comments); }
+  std::vector<FileUrl>& filesArray() { return m_filesArray; }
+  const std::vector<FileUrl>& filesArray() const { return m_filesArray; }
+  void setFilesArray(std::vector<FileUrl> files) { m_filesArray = std::move(files); }
+  LanguagesDict& languagesDict() { return m_languagesDict; }
+  const LanguagesDict& languagesDict() const { return m_languagesDict; }
+  void setLanguagesDict(LanguagesDict dict) { m_languagesDict = std::move(dict); }
+
+  /// The names of the files, joined by ", ", duplicates included.
+  std::string sourceList() const;
+  /// The comments, joined by single line feeds; an empty comment at the front gives no leading line feed.
+  std::string comment() const;
+
+  static std::string incompleteString(const Bundle& bundle);
+  static std::string completeString(const Bundle& bundle);
+  static std::string automaticString(const Bundle& bundle);
+  static std::string ignoredString(const Bundle& bundle);
+
+  /// Complete when there are exactly as many translations as the project has languages; without a project, Incomplete.
+  const std::string& status(const StatusTexts& texts, const ProjectContext* project) const;
+  /// The same, but with the count of what is missing, which is negative when there are too many.
+  std::string statusString(const StatusTexts& texts, const ProjectContext* project) const;
+
+  /// The translation of the project's selected record in its selected language: the selection counts, not this record.
+  /// "" when there is none, or no selection, or no project.
+  std::string translationForSelectedString(const ProjectContext* project) const;
+  /// Stores, or with the empty text removes, that translation. Posts kTranslationChangedNotification only when an entry
+  /// was added or removed, never when one text replaces another.
+  void setTranslationForSelectedString(std::string_view text, ProjectContext* project);
+
+ private:
+  std::string m_name;
+  std::string m_language;
+  std::int64_t m_useCount = 1;
+  std::vector<std::string> m_commentArray;
+  std::vector<FileUrl> m_filesArray;
+  LanguagesDict m_languagesDict;
+};
+
+using StringArray = std::vector<std::shared_ptr<LocalizeString>>;
+
+}  // namespace glossmill

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "model/LanguageCode.h"
+#include "model/LocalizeString.h"
+
+namespace glossmill {
+
+/// Remembers for each language how many records of a list have a translation in it, so that asking every language for
+/// its status costs one pass over the records, and nothing after a single edit. Main thread.
+class TranslationCounts {
+ public:
+  /// Something else than a single edit has changed: the next question counts again.
+  void invalidate() { m_valid = false; }
+  void adjust(LanguageCode code, int difference);
+  /// How many of `records` lack an entry for the language.
+  std::size_t missing(LanguageCode code, const StringArray& records);
+
+ private:
+  void count(const StringArray& records);
+
+  bool m_valid = false;
+  std::vector<std::size_t> m_present;  ///< by code number
+};
+
+}  // namespace glossmill

@@ -1,0 +1,76 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "model/TranslationCounts.h"
+
+namespace glossmill {
+namespace {
+
+const LanguageCode kGerman("de");
+const LanguageCode kFrench("fr");
+
+StringArray threeRecords() {
+  StringArray records;
+  for (int i = 0; i < 3; ++i) records.push_back(std::make_shared<LocalizeString>());
+  return records;
+}
+
+TEST(TranslationCounts, FindNothingMissingWithoutRecords) {
+  EXPECT_EQ(TranslationCounts().missing(kGerman, {}), 0U);
+}
+
+TEST(TranslationCounts, FindEveryRecordMissingInALanguageThatNoneHas) {
+  EXPECT_EQ(TranslationCounts().missing(LanguageCode("a language that nobody speaks"), threeRecords()), 3U);
+}
+
+TEST(TranslationCounts, CountTheRecordsThatLackALanguage) {
+  const StringArray records = threeRecords();
+  records[0]->languagesDict().set(kGerman, "Öffnen");
+  records[2]->languagesDict().set(kGerman, "");
+  records[1]->languagesDict().set(kFrench, "Fermer");
+  TranslationCounts counts;
+  EXPECT_EQ(counts.missing(kGerman, records), 1U);
+  EXPECT_EQ(counts.missing(kFrench, records), 2U);
+}
+
+TEST(TranslationCounts, FollowASingleEdit) {
+  const StringArray records = threeRecords();
+  TranslationCounts counts;
+  EXPECT_EQ(counts.missing(kGerman, records), 3U);
+  counts.adjust(kGerman, 1);
+  EXPECT_EQ(counts.missing(kGerman, records), 2U);
+  counts.adjust(kGerman, -1);
+  EXPECT_EQ(counts.missing(kGerman, records), 3U);
+}
+
+TEST(TranslationCounts, FollowAnEditInALanguageThatWasNotThereBefore) {
+  const StringArray records = threeRecords();
+  TranslationCounts counts;
+  EXPECT_EQ(counts.missing(kGerman, records), 3U);
+  const LanguageCode added("a language that was just added");
+  counts.adjust(added, 1);
+  EXPECT_EQ(counts.missing(added, records), 2U);
+}
+
+TEST(TranslationCounts, CountAnEditBeforeTheFirstQuestionOnce) {
+  const StringArray records = threeRecords();
+  records[0]->languagesDict().set(kGerman, "Öffnen");
+  TranslationCounts counts;
+  counts.adjust(kGerman, 1);
+  EXPECT_EQ(counts.missing(kGerman, records), 2U);
+}
+
+TEST(TranslationCounts, CountAnewAfterALargerChange) {
+  StringArray records = threeRecords();
+  records[0]->languagesDict().set(kGerman, "Öffnen");
+  TranslationCounts counts;
+  EXPECT_EQ(counts.missing(kGerman, records), 2U);
+  for (const auto& record : records) record->languagesDict().set(kGerman, "Öffnen");
+  records.push_back(std::make_shared<LocalizeString>());
+  counts.invalidate();
+  EXPECT_EQ(counts.missing(kGerman, records), 1U);
+}
+
+}  // namespace
+}  // namespace glossmill
