@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "model/TextArena.h"
+
+namespace glossmill {
+
+/// Finds keys by hash and numbers them from 0 in the order in which they were added. Exact, case-sensitive comparison.
+class KeyIndex {
+ public:
+  using Number = std::uint32_t;
+
+  std::size_t size() const { return m_keys.size(); }
+  std::optional<Number> find(std::string_view key) const;
+  /// The number of `key`, and whether it is new.
+  std::pair<Number, bool> add(std::string_view key);
+
+ private:
+  struct Key {
+    std::string_view text;
+    std::uint32_t hash;
+  };
+  static constexpr Number kNone = ~Number{0};
+
+  static std::uint32_t hashOf(std::string_view key);
+  /// The slot that holds the key, or the empty one where it belongs.
+  std::size_t slotOf(std::string_view key, std::uint32_t hash) const;
+  void grow();
+
+  TextArena m_texts;
+  std::vector<Key> m_keys;
+  std::vector<Number> m_slots;  ///< a power of two of them, at most half full
+};
+
+/// Looks up the keys of file after file. Files tend to hold the same keys in the same order, so the key that stood next
+/// in an earlier file is compared first, from a copy of the keys in the order of the files, which is read front to
+/// back.
+class KeyReader {
+ public:
+  explicit KeyReader(const KeyIndex& index) : m_index(index), m_placeOf(index.size(), kNoPlace) {}
+
+  /// The next file begins.
+  void restart() { m_next = 0; }
+  std::optional<KeyIndex::Number> find(std::string_view key);
+
+ private:
+  struct Expected {
+    std::string_view text;
+    KeyIndex::Number number;
+  };
+  static constexpr std::uint32_t kNoPlace = ~std::uint32_t{0};
+
+  void expect(KeyIndex::Number number, std::string_view key);
+
+  const KeyIndex& m_index;
+  TextArena m_texts;
+  std::vector<Expected> m_expected;      ///< keys in the order in which files first held them
+  std::vector<std::uint32_t> m_placeOf;  ///< by number, in m_expected
+  std::size_t m_next = 0;                ///< in m_expected
+};
+
+}  // namespace glossmill

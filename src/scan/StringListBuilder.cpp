@@ -1,0 +1,44 @@
+#include "scan/StringListBuilder.h"
+
+#include <algorithm>
+
+namespace glossmill {
+
+namespace {
+constexpr std::size_t kManyComments = 32;
+}
+
+void StringListBuilder::add(const std::vector<SourceString>& strings, const FileUrl& file) {
+  for (const SourceString& string : strings) {
+    const auto [number, isNew] = m_keys.add(string.name);
+    if (isNew) {
+      append(string, file);
+    } else {
+      merge(number, string.comment);
+    }
+  }
+}
+
+void StringListBuilder::append(const SourceString& string, const FileUrl& file) {
+  auto record = std::make_shared<LocalizeString>(m_arena);
+  record->setName(string.name);
+  record->commentArray().emplace_back(string.comment);
+  record->filesArray().push_back(file);
+  m_records.push_back(std::move(record));
+}
+
+void StringListBuilder::merge(KeyIndex::Number number, std::string_view comment) {
+  LocalizeString& record = *m_records[number];
+  record.setUseCount(record.useCount() + 1);
+  if (!hasComment(number, comment)) record.commentArray().emplace_back(comment);
+}
+
+bool StringListBuilder::hasComment(KeyIndex::Number number, std::string_view comment) {
+  const std::vector<std::string>& comments = m_records[number]->commentArray();
+  if (comments.size() < kManyComments) return std::find(comments.begin(), comments.end(), comment) != comments.end();
+  auto& known = m_manyComments[number];
+  if (known.empty()) known.insert(comments.begin(), comments.end());
+  return !known.emplace(comment).second;
+}
+
+}  // namespace glossmill

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "model/IsoTable.h"
+#include "model/Language.h"
+#include "platform/CancelFlag.h"
+#include "platform/Files.h"
+#include "scan/DirectoryTrail.h"
+#include "scan/ProjectFileNames.h"
+
+namespace glossmill {
+
+/// What a walk leaves behind for the next one.
+struct TreeWalkState {
+  std::int64_t actualDirectoryDepth = 0;     ///< directories entered so far; deliberately never lowered on the way out
+  std::shared_ptr<Language> actualLanguage;  ///< the language made last, also by an earlier walk
+};
+
+/// Hears of what a walk meets, in its order and on its thread.
+class TreeWalkListener {
+ public:
+  virtual ~TreeWalkListener() = default;
+  virtual void oldLanguageName(std::string_view directoryName, const std::string& code) = 0;
+  virtual void foundStringsFile(const Language& language) = 0;
+  virtual void sourceFile(const FileUrl& file) = 0;
+};
+
+/// What a walk works on; all of it outlives the walk.
+struct TreeWalkInput {
+  FileReading& files;
+  const IsoTable& isoTable;
+  const ProjectFileNames* members;  ///< null when no project file was ever read: then every source file is a member
+  const CancelFlag& canceled;
+};
+
+/// Visits every directory below one: each `.lproj` becomes a language, each `Localizable.strings` goes to the language
+/// made last, whatever directory it lies in, and each member source file to the listener.
+class TreeWalk {
+ public:
+  TreeWalk(const TreeWalkInput& input, TreeWalkState& state, LanguageArray& languages, TreeWalkListener& listener)
+      : m_input(input), m_state(state), m_languages(languages), m_listener(listener), m_trail(input.files) {}
+
+  /// Walks one directory and everything below it.
+  void contentsOfUrl(const FileUrl& directory);
+
+ private:
+  void directoryEntry(const FileUrl& url, const DirectoryEntry& entry);
+  void fileEntry(const FileUrl& url);
+  void addLanguage(std::string_view directoryName, const FileUrl& directory);
+  std::shared_ptr<Language> languageWithCode(LanguageCode code) const;
+  void createLanguage(const std::string& code, const FileUrl& directory);
+
+  TreeWalkInput m_input;
+  TreeWalkState& m_state;
+  LanguageArray& m_languages;
+  TreeWalkListener& m_listener;
+  DirectoryTrail m_trail;
+};
+
+/// The code for a directory named like a language of the table (English gives en); the name itself otherwise.
+std::string languageCodeForDirectoryName(const IsoTable& table, std::string_view name);
+
+}  // namespace glossmill
