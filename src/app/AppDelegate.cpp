@@ -1,0 +1,144 @@
+#include "app/AppDelegate.h"
+
+#include <algorithm>
+
+namespace glossmill {
+
+namespace {
+
+constexpr const char* kRecentSetting = "RecentUrls";
+constexpr std::size_t kRecentLimit = 5;
+constexpr int kClearMenuTag = 4;
+
+}  // namespace
+
+void AppDelegate::applicationDidFinishLaunching() {
+  loadRecent();
+  openProjectWindow();
+  m_projectWindowController->openProject(m_recentArray.empty() ? FileUrl() : FileUrl::fromText(m_recentArray.front()));
+}
+
+void AppDelegate::applicationWillTerminate() {
+  if (m_projectWindowController) m_projectWindowController->closeProject();
+}
+
+bool AppDelegate::validateMenuItem(int tag) const {
+  const ProjectWindowController* project = m_projectWindowController.get();
+  switch (tag) {
+    case 2:
+    case 5:
+    case 6:
+    case 7:
+      return project && project->canClose();
+    case 3:
+      return project && project->canSave();
+    case kClearMenuTag:
+      return !m_recentArray.empty();
+    case 11:
+      return project && project->canSelectPrevString();
+    case 12:
+      return project && project->canSelectNextString();
+    case 13:
+      return project && project->canSelectPrevLanguage();
+    case 14:
+      return project && project->canSelectNextLanguage();
+    default:
+      return true;
+  }
+}
+
+void AppDelegate::quit() {
+  if (!m_projectWindowController || m_projectWindowController->closeProject()) m_host.application.terminate();
+}
+
+void AppDelegate::open() {
+  if (m_projectWindowController) m_projectWindowController->openProject(FileUrl());
+}
+
+void AppDelegate::close() {
+  if (m_projectWindowController) m_projectWindowController->closeProject();
+}
+
+void AppDelegate::save() {
+  if (m_projectWindowController) m_projectWindowController->saveProject();
+}
+
+void AppDelegate::prevString() {
+  if (m_projectWindowController) m_projectWindowController->selectPrevString();
+}
+
+void AppDelegate::nextString() {
+  if (m_projectWindowController) m_projectWindowController->selectNextString();
+}
+
+void AppDelegate::prevLanguage() {
+  if (m_projectWindowController) m_projectWindowController->selectPrevLanguage();
+}
+
+void AppDelegate::nextLanguage() {
+  if (m_projectWindowController) m_projectWindowController->selectNextLanguage();
+}
+
+void AppDelegate::openProjectWindow() {
+  if (!m_projectWindowController) m_projectWindowController = std::make_unique<ProjectWindowController>(m_host, *this);
+  m_projectWindowController->showWindow();
+}
+
+void AppDelegate::openLogWindow() {
+  if (!m_logWindowController) m_logWindowController = std::make_unique<LogWindowController>(m_host);
+  m_logWindowController->showWindow();
+}
+
+/// The stored path serves as the text of a URL: one with a blank in it names nothing, and the panel opens anywhere.
+void AppDelegate::recentMenu(std::string_view title) {
+  if (m_projectWindowController) m_projectWindowController->openProject(FileUrl::fromText(title));
+}
+
+void AppDelegate::clearRecent() {
+  m_recentArray.clear();
+  storeRecent();
+}
+
+void AppDelegate::logText(std::string_view text) {
+  m_host.threads.performOnMainThreadAndWait([&] {
+    openLogWindow();
+    m_logWindowController->logText(text);
+  });
+}
+
+void AppDelegate::clearLog() {
+  m_host.threads.performOnMainThreadAndWait([this] {
+    if (m_logWindowController) m_logWindowController->clearLog();
+  });
+}
+
+/// The limit is tested for equality only: a stored list that is already longer keeps growing.
+void AppDelegate::saveRecent(std::string_view path) {
+  const auto known = std::find(m_recentArray.begin(), m_recentArray.end(), path);
+  if (known != m_recentArray.end()) {
+    std::rotate(m_recentArray.begin(), known, known + 1);
+  } else {
+    if (m_recentArray.size() == kRecentLimit) m_recentArray.pop_back();
+    m_recentArray.emplace(m_recentArray.begin(), path);
+  }
+  storeRecent();
+}
+
+void AppDelegate::storeRecent() {
+  m_host.defaults.setStringArray(kRecentSetting, m_recentArray);
+  m_host.defaults.synchronize();
+  loadRecent();
+}
+
+void AppDelegate::loadRecent() {
+  m_recentArray = m_host.defaults.stringArrayForKey(kRecentSetting).value_or(std::vector<std::string>());
+  Menu& menu = m_host.recentMenu;
+  menu.removeAllItems();
+  for (const std::string& path : m_recentArray) {
+    menu.addItem({path, 0, [this, path] { recentMenu(path); }, false});
+  }
+  if (!m_recentArray.empty()) menu.addItem({"", 0, nullptr, true});
+  menu.addItem({m_host.bundle.localizedString("Clear Menu"), kClearMenuTag, [this] { clearRecent(); }, false});
+}
+
+}  // namespace glossmill

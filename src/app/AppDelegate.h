@@ -1,0 +1,65 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/LogWindowController.h"
+#include "platform/Host.h"
+#include "scan/ProjectWindowController.h"
+
+namespace glossmill {
+
+/// The application object's delegate: creates the project window and the log window, keeps the recent projects, enables
+/// the menu's commands and decides about quitting. Main thread, but for logText() and clearLog().
+class AppDelegate : public ApplicationServices {
+ public:
+  /// `host` outlives the delegate.
+  explicit AppDelegate(const Host& host) : m_host(host) {}
+
+  // Application events.
+  void applicationDidFinishLaunching();
+  /// Always yes: who quits by the menu was asked before.
+  bool applicationShouldTerminate() const { return true; }
+  /// Offers unsaved changes for saving once more; too late to stay.
+  void applicationWillTerminate();
+  /// Whether the menu item with this tag is enabled.
+  bool validateMenuItem(int tag) const;
+
+  // Menu commands.
+  void quit();
+  void open();
+  void close();
+  void save();
+  void prevString();
+  void nextString();
+  void prevLanguage();
+  void nextLanguage();
+  void openProjectWindow();
+  void openLogWindow();
+  /// Opens the directory panel at a recent project.
+  void recentMenu(std::string_view title);
+  void clearRecent();
+
+  // Services for the project window.
+  void logText(std::string_view text) override;
+  void clearLog() override;
+  void saveRecent(std::string_view path) override;
+  void loadRecent();
+
+  /// Null until the window was opened.
+  ProjectWindowController* projectWindowController() const { return m_projectWindowController.get(); }
+  LogWindowController* logWindowController() const { return m_logWindowController.get(); }
+  const std::vector<std::string>& recentArray() const { return m_recentArray; }
+
+ private:
+  void storeRecent();
+
+  Host m_host;
+  std::unique_ptr<ProjectWindowController> m_projectWindowController;
+  std::unique_ptr<LogWindowController> m_logWindowController;
+  std::vector<std::string> m_recentArray;  ///< path texts, most recent first
+};
+
+}  // namespace glossmill

@@ -1,0 +1,113 @@
+#include "app/Commands.h"
+
+#include <algorithm>
+
+#include "app/AppDelegate.h"
+
+namespace glossmill {
+
+namespace {
+
+/// The action of a command that goes straight to the project window.
+template <void (ProjectWindowController::*operation)()>
+void onProject(AppDelegate& application) {
+  if (ProjectWindowController* project = application.projectWindowController()) (project->*operation)();
+}
+
+/// The action of a command of the application delegate.
+template <void (AppDelegate::*operation)()>
+void onApplication(AppDelegate& application) {
+  (application.*operation)();
+}
+
+using enum CommandId;
+using enum MenuId;
+using Project = ProjectWindowController;
+using App = AppDelegate;
+
+constexpr bool kStartsGroup = true;
+
+constexpr Command kCommands[] = {
+    {Open, File, "&Open...", {"Ctrl+O"}, 8, false, onApplication<&App::open>},
+    {OpenRecent, File, "Open &Recent", {}},
+    {ClearMenu, Recent, "Clear Menu", {}, 4, kStartsGroup, onApplication<&App::clearRecent>},
+    {Close, File, "&Close", {"Ctrl+W"}, 2, kStartsGroup, onApplication<&App::close>},
+    {Save, File, "&Save", {"Ctrl+S"}, 3, false, onApplication<&App::save>},
+    {Export, File, "&Export...", {"Ctrl+E"}, 5, kStartsGroup, onProject<&Project::exportStrings>},
+    {Import, File, "&Import...", {"Ctrl+I"}, 6, false, onProject<&Project::importStrings>},
+    {AddLanguage, File, "&Add Language...", {"Ctrl+L"}, 7, kStartsGroup, onProject<&Project::addLanguage>},
+    {BaseLanguage, File, "Create &Base Language...", {"Ctrl+B"}, 7, false, onProject<&Project::createBaseLanguage>},
+    {Quit, File, "&Quit", {"Ctrl+Q"}, 0, kStartsGroup, onApplication<&App::quit>},
+
+    {Undo, Edit, "&Undo", {"Ctrl+Z"}},
+    {Redo, Edit, "&Redo", {"Ctrl+Shift+Z"}},
+    {Cut, Edit, "Cu&t", {"Ctrl+X"}, 0, kStartsGroup},
+    {Copy, Edit, "&Copy", {"Ctrl+C"}},
+    {Paste, Edit, "&Paste", {"Ctrl+V"}},
+    {SelectAll, Edit, "Select &All", {"Ctrl+A"}},
+    {Find, Edit, "&Find", {"Ctrl+F"}, 0, kStartsGroup},
+
+    {PreviousString, Go, "&Previous String", {"Alt+Up"}, 11, false, onApplication<&App::prevString>},
+    {NextString, Go, "&Next String", {"Alt+Down", "Ctrl+Return"}, 12, false, onApplication<&App::nextString>},
+    {PreviousLanguage, Go, "P&revious Language", {"Alt+Left"}, 13, kStartsGroup, onApplication<&App::prevLanguage>},
+    {NextLanguage, Go, "Ne&xt Language", {"Alt+Right"}, 14, false, onApplication<&App::nextLanguage>},
+
+    {ProjectWindow, Windows, "&Project Window", {"Ctrl+1"}, 9, false, onApplication<&App::openProjectWindow>},
+    {LogWindow, Windows, "&Log Window", {"Ctrl+2"}, 10, false, onApplication<&App::openLogWindow>},
+
+    {KeyboardShortcuts, Help, "&Keyboard Shortcuts", {"F1"}},
+    {About, Help, "&About Glossmill", {}, 0, kStartsGroup},
+};
+
+constexpr ToolBarItem kToolBarItems[] = {
+    {Open, "open", "Open"},       {Save, "save", "Save", 2},    {AddLanguage, "add-language", "Add Language"},
+    {Export, "export", "Export"}, {Import, "import", "Import"}, {BaseLanguage, "base-language", "Base Language"},
+};
+
+}  // namespace
+
+std::span<const Command> commands() {
+  return kCommands;
+}
+
+const Command& command(CommandId id) {
+  return *std::find_if(std::begin(kCommands), std::end(kCommands),
+                       [id](const Command& candidate) { return candidate.id == id; });
+}
+
+std::string_view menuTitle(MenuId menu) {
+  switch (menu) {
+    case File:
+      return "&File";
+    case Recent:
+      return command(OpenRecent).title;
+    case Edit:
+      return "&Edit";
+    case Go:
+      return "&Go";
+    case Windows:
+      return "&Window";
+    case Help:
+      return "&Help";
+  }
+  return {};
+}
+
+std::span<const ToolBarItem> toolBarItems() {
+  return kToolBarItems;
+}
+
+bool isEnabled(const AppDelegate& application, const Command& command) {
+  return application.validateMenuItem(command.tag);
+}
+
+bool isEnabled(const AppDelegate& application, const ToolBarItem& item) {
+  const ProjectWindowController* project = application.projectWindowController();
+  return project && project->validateToolbarItem(item.tag);
+}
+
+void perform(AppDelegate& application, const Command& command) {
+  if (command.action) command.action(application);
+}
+
+}  // namespace glossmill

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <array>
+#include <span>
+#include <string_view>
+
+namespace glossmill {
+
+class AppDelegate;
+
+enum class MenuId { File, Recent, Edit, Go, Windows, Help };
+
+enum class CommandId {
+  Open,
+  OpenRecent,  ///< the submenu itself
+  ClearMenu,
+  Close,
+  Save,
+  Export,
+  Import,
+  AddLanguage,
+  BaseLanguage,
+  Quit,
+  Undo,
+  Redo,
+  Cut,
+  Copy,
+  Paste,
+  SelectAll,
+  Find,
+  PreviousString,
+  NextString,
+  PreviousLanguage,
+  NextLanguage,
+  ProjectWindow,
+  LogWindow,
+  KeyboardShortcuts,
+  About,
+};
+
+/// One command of the menu bar.
+struct Command {
+  using Action = void (*)(AppDelegate& application);
+
+  CommandId id;
+  MenuId menu;
+  std::string_view title;                     ///< English with an "&" before the mnemonic, key of the program's texts
+  std::array<std::string_view, 2> shortcuts;  ///< portable text such as "Ctrl+S"; empty where there is none
+  int tag = 0;                                ///< what validateMenuItem() decides by
+  bool startsGroup = false;                   ///< a separator stands before it
+  Action action = nullptr;                    ///< null: what has the focus, or the shell, carries it out
+};
+
+/// One button of the tool bar.
+struct ToolBarItem {
+  CommandId command;
+  std::string_view icon;   ///< name of its picture
+  std::string_view title;  ///< English, key of the program's texts
+  int tag = 0;             ///< what validateToolbarItem() decides by; has nothing to do with the menu's tag
+};
+
+/// Every command, menu by menu and in the order of the menus.
+std::span<const Command> commands();
+const Command& command(CommandId id);
+/// English with a mnemonic, key of the program's texts.
+std::string_view menuTitle(MenuId menu);
+/// The tool bar, from left to right.
+std::span<const ToolBarItem> toolBarItems();
+
+/// Whether the command's menu item is enabled.
+bool isEnabled(const AppDelegate& application, const Command& command);
+bool isEnabled(const AppDelegate& application, const ToolBarItem& item);
+/// Carries the command out, whether it is enabled or not; nothing happens when it has no action.
+void perform(AppDelegate& application, const Command& command);
+
+}  // namespace glossmill

@@ -1,0 +1,69 @@
+#include <gtest/gtest.h>
+
+#include "edit/StringsFileWriter.h"
+
+namespace glossmill {
+namespace {
+
+const LanguageCode kFrench("fr");
+const LanguageCode kGerman("de");
+
+std::shared_ptr<LocalizeString> record(std::string_view key, std::vector<std::string> comments = {}) {
+  auto made = std::make_shared<LocalizeString>();
+  made->setName(key);
+  made->setCommentArray(std::move(comments));
+  return made;
+}
+
+std::shared_ptr<LocalizeString> inFrench(std::string_view key, std::string_view translation,
+                                         std::vector<std::string> comments = {}) {
+  auto made = record(key, std::move(comments));
+  made->languagesDict().set(kFrench, translation);
+  return made;
+}
+
+TEST(StringsFileWriter, GivesASingleLineFeedForALanguageWithoutTranslations) {
+  EXPECT_EQ(stringsFileText({record("Open"), inFrench("Close", "Fermer")}, kGerman), "\n");
+  EXPECT_EQ(stringsFileText({}, kFrench), "\n");
+}
+
+TEST(StringsFileWriter, WritesCommentLineEntryWithoutSemicolonAndEmptyLine) {
+  EXPECT_EQ(stringsFileText({inFrench("Open", "Ouvrir", {"Menu title"})}, kFrench),
+            "\n/* Menu title */\n\"Open\" = \"Ouvrir\"\n\n");
+}
+
+TEST(StringsFileWriter, WritesTwoBlanksInTheCommentLineOfARecordWithoutComments) {
+  EXPECT_EQ(stringsFileText({inFrench("Open", "Ouvrir")}, kFrench), "\n/*  */\n\"Open\" = \"Ouvrir\"\n\n");
+}
+
+TEST(StringsFileWriter, SpreadsSeveralCommentsOverTheLinesOfOneBlock) {
+  EXPECT_EQ(stringsFileText({inFrench("Open", "Ouvrir", {"Menu", "Button"})}, kFrench),
+            "\n/* Menu\nButton */\n\"Open\" = \"Ouvrir\"\n\n");
+}
+
+TEST(StringsFileWriter, LeavesOutRecordsWithoutAnEntryInTheLanguage) {
+  EXPECT_EQ(stringsFileText({record("Open"), inFrench("Close", "Fermer"), record("Save")}, kFrench),
+            "\n/*  */\n\"Close\" = \"Fermer\"\n\n");
+}
+
+TEST(StringsFileWriter, WritesAnEntryWhoseTextIsEmpty) {
+  EXPECT_EQ(stringsFileText({inFrench("Open", "")}, kFrench), "\n/*  */\n\"Open\" = \"\"\n\n");
+}
+
+TEST(StringsFileWriter, KeepsTheOrderOfTheList) {
+  EXPECT_EQ(stringsFileText({inFrench("b", "2"), inFrench("a", "1")}, kFrench),
+            "\n/*  */\n\"b\" = \"2\"\n\n/*  */\n\"a\" = \"1\"\n\n");
+}
+
+TEST(StringsFileWriter, AddsNoEscapeSequences) {
+  EXPECT_EQ(stringsFileText({inFrench("Say \\", "\"oui\"\nou \\n\ttab", {"a \"quote\""})}, kFrench),
+            "\n/* a \"quote\" */\n\"Say \\\" = \"\"oui\"\nou \\n\ttab\"\n\n");
+}
+
+TEST(StringsFileWriter, FillsNothingIntoPercentSignsOfTheTexts) {
+  EXPECT_EQ(stringsFileText({inFrench("%@ of %ld", "%ld%% de %@", {"%@"})}, kFrench),
+            "\n/* %@ */\n\"%@ of %ld\" = \"%ld%% de %@\"\n\n");
+}
+
+}  // namespace
+}  // namespace glossmill
