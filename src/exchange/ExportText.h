@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "model/LocalizeString.h"
+
+namespace glossmill {
+
+/// What every export text begins with.
+inline constexpr const char* kExportTextStart = "\n";
+
+/// Appends the block of one record, the `number`th of its list: number line, comment, key and translation, which is
+/// empty without an entry. Nothing is escaped. Without `allStrings` a record that has an entry, be it empty, is left
+/// out.
+void appendExportBlock(std::string& text, const LocalizeString& record, std::int64_t number, LanguageCode language,
+                       bool allStrings);
+
+}  // namespace glossmill

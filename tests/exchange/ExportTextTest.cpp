@@ -1,0 +1,71 @@
+#include <gtest/gtest.h>
+
+#include "exchange/ExportText.h"
+
+namespace glossmill {
+namespace {
+
+const LanguageCode kFrench("fr");
+
+LocalizeString record(std::string_view key, std::vector<std::string> comments = {}) {
+  LocalizeString made;
+  made.setName(key);
+  made.setCommentArray(std::move(comments));
+  return made;
+}
+
+LocalizeString inFrench(std::string_view key, std::string_view translation, std::vector<std::string> comments = {}) {
+  LocalizeString made = record(key, std::move(comments));
+  made.languagesDict().set(kFrench, translation);
+  return made;
+}
+
+std::string block(const LocalizeString& record, std::int64_t number, bool allStrings) {
+  std::string text;
+  appendExportBlock(text, record, number, kFrench, allStrings);
+  return text;
+}
+
+TEST(ExportText, StartsWithOneEmptyLine) {
+  EXPECT_STREQ(kExportTextStart, "\n");
+}
+
+TEST(ExportText, HasNumberCommentKeyAndTranslationInABlock) {
+  EXPECT_EQ(block(inFrench("Open", "Ouvrir", {"Menu"}), 12, true), "--- 12 ---\n/* Menu */\nOpen\nOuvrir\n\n");
+}
+
+TEST(ExportText, HasAnEmptyTranslationLineForAnUntranslatedString) {
+  EXPECT_EQ(block(record("Open", {"Menu"}), 2, true), "--- 2 ---\n/* Menu */\nOpen\n\n\n");
+  EXPECT_EQ(block(record("Open", {"Menu"}), 2, false), "--- 2 ---\n/* Menu */\nOpen\n\n\n");
+}
+
+TEST(ExportText, LeavesOutTranslatedStringsWhenOnlyUntranslatedOnesAreWanted) {
+  EXPECT_EQ(block(inFrench("Open", "Ouvrir"), 1, false), "");
+}
+
+TEST(ExportText, TreatsAnEmptyEntryAsTranslated) {
+  EXPECT_EQ(block(inFrench("Open", ""), 1, false), "");
+  EXPECT_EQ(block(inFrench("Open", ""), 1, true), "--- 1 ---\n/*  */\nOpen\n\n\n");
+}
+
+TEST(ExportText, HasAnEmptyCommentForAStringWithoutComments) {
+  EXPECT_EQ(block(record("Open"), 1, true), "--- 1 ---\n/*  */\nOpen\n\n\n");
+}
+
+TEST(ExportText, SpreadsTwoCommentsOverTwoLines) {
+  EXPECT_EQ(block(record("Open", {"Menu", "Button"}), 1, true), "--- 1 ---\n/* Menu\nButton */\nOpen\n\n\n");
+}
+
+TEST(ExportText, WritesLineFeedsAndPercentSignsAsTheyAre) {
+  EXPECT_EQ(block(inFrench("%@\nof %ld", "%@\nde\n%ld", {"100 %"}), 1, true),
+            "--- 1 ---\n/* 100 % */\n%@\nof %ld\n%@\nde\n%ld\n\n");
+}
+
+TEST(ExportText, KnowsAStringOnlyByTheWantedLanguage) {
+  LocalizeString german = record("Open");
+  german.languagesDict().set(LanguageCode("de"), "Öffnen");
+  EXPECT_EQ(block(german, 1, false), "--- 1 ---\n/*  */\nOpen\n\n\n");
+}
+
+}  // namespace
+}  // namespace glossmill
