@@ -1,0 +1,10 @@
+#include "host/HeadlessApplication.h"
+
+namespace glossmill {
+
+void HeadlessApplication::terminate() {
+  isTerminated = true;
+  if (onTerminate) onTerminate();
+}
+
+}  // namespace glossmill

@@ -1,0 +1,71 @@
+#include "host/HostThreads.h"
+
+#include <chrono>
+#include <utility>
+
+namespace glossmill {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds kTickInterval{50};
+
+}  // namespace
+
+void HostThreads::performInBackground(std::function<void()> job) {
+  joinEnded();
+  const std::lock_guard lock(m_mutex);
+  if (m_closed) return;
+  m_running.fetch_add(1, std::memory_order_acq_rel);
+  Job& started = m_jobs.emplace_back();
+  started.thread = std::thread([this, &started, work = std::move(job)] { run(work, started); });
+}
+
+void HostThreads::run(const std::function<void()>& work, Job& job) {
+  work();
+  job.ended.store(true, std::memory_order_release);
+  m_running.fetch_sub(1, std::memory_order_acq_rel);
+  m_mailbox.nudge();
+}
+
+void HostThreads::performOnMainThreadAndWait(const std::function<void()>& work) {
+  if (isMainThread()) {
+    work();
+    return;
+  }
+  m_mailbox.performAndWait(work);
+}
+
+void HostThreads::runUntilIdle(const std::function<void()>& tick) {
+  Clock::time_point nextTick = Clock::now() + kTickInterval;
+  while (jobsRunning() > 0) {
+    m_mailbox.waitAndDrain(nextTick - Clock::now());
+    if (Clock::now() < nextTick) continue;
+    if (tick) tick();
+    nextTick = Clock::now() + kTickInterval;
+  }
+  joinEnded();
+}
+
+void HostThreads::joinEnded() {
+  const std::lock_guard lock(m_mutex);
+  m_jobs.remove_if([](Job& job) {
+    if (!job.ended.load(std::memory_order_acquire)) return false;
+    job.thread.join();
+    return true;
+  });
+}
+
+void HostThreads::joinAll() {
+  m_mailbox.close();
+  std::list<Job> jobs;
+  {
+    const std::lock_guard lock(m_mutex);
+    m_closed = true;
+    jobs.swap(m_jobs);
+  }
+  for (Job& job : jobs) job.thread.join();
+}
+
+}  // namespace glossmill

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <mutex>
+
+#include "host/BriefYield.h"
+
+namespace glossmill {
+
+/// Carries work from other threads to the main thread, where it is done in the order of posting while each poster
+/// waits. It outlives the threads that use it.
+class MainThreadMailbox {
+ public:
+  using Work = std::function<void()>;
+  using Duration = std::chrono::steady_clock::duration;
+
+  /// The longest that a turn of a foreign event loop should spend here.
+  static constexpr std::chrono::milliseconds kTurn{8};
+
+  /// For a foreign event loop, which is to call drain() soon after `wake`. It is called on the poster's thread when the
+  /// first work arrives, then not before the queue was drained, and once more by a drain that had to leave work behind.
+  /// Set it on the main thread; it is called at once when work waits already.
+  void setWakeCallback(std::function<void()> wake);
+
+  /// Any thread but the main one. Returns when `work` is done, or false without having done it once the mailbox is
+  /// closed.
+  bool performAndWait(const Work& work);
+
+  // The main thread's side. Work may call all of it again.
+
+  /// Does what waits, and what comes while it does, for about `maxTime` at most; one work is never cut short.
+  void drain(Duration maxTime = kTurn);
+  /// Sleeps until there is work, a nudge(), or `timeout` has passed, then drains.
+  void waitAndDrain(Duration timeout);
+  /// Lets the next work call `wake` again, or calls it now if work waits. To be called by work that is going to run a
+  /// nested event loop.
+  void rearm();
+
+  /// Work that has been posted and not yet begun. Any thread.
+  std::size_t waitingCount() const { return m_queued.load(std::memory_order_acquire); }
+  /// Any thread: ends the sleep of waitAndDrain(), or the next one.
+  void nudge();
+  /// Refuses new work and releases who waits; their work is dropped, but what is being done is finished. For good.
+  void close();
+
+ private:
+  enum class State { Waiting, Sleeping, Done, Dropped };
+
+  /// One hop; it lives on the poster's stack and is gone as soon as its state says that it is finished.
+  struct Item {
+    const Work& work;
+    std::atomic<State> state{State::Waiting};
+
+    bool isFinished() const { return state.load(std::memory_order_acquire) >= State::Done; }
+  };
+
+  bool post(Item& item);
+  void sleepUntilFinished(Item& item);
+  Item* takeNext();
+  void finish(Item& item, State state);
+
+  std::mutex m_mutex;
+  std::condition_variable m_arrived;   ///< the main thread sleeps on this
+  std::condition_variable m_finished;  ///< the posters sleep on this
+  std::deque<Item*> m_queue;
+  std::atomic<std::size_t> m_queued{0};  ///< size of m_queue, for a look without the lock
+  std::function<void()> m_wake;
+  bool m_armed = true;
+  bool m_nudged = false;
+  bool m_closed = false;
+  BriefYield m_mainYield;
+  BriefYield m_posterYield;
+};
+
+}  // namespace glossmill

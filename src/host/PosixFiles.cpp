@@ -1,0 +1,124 @@
+#include "host/PosixFiles.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+
+#include "host/AtomicWrite.h"
+#include "host/FileDescriptor.h"
+#include "host/SystemError.h"
+#include "text/Utf8.h"
+
+namespace glossmill {
+
+namespace {
+
+struct DirectoryCloser {
+  void operator()(DIR* directory) const { closedir(directory); }
+};
+using OpenDirectory = std::unique_ptr<DIR, DirectoryCloser>;
+
+EntryKind kindOfMode(mode_t mode) {
+  return S_ISDIR(mode) ? EntryKind::Directory : EntryKind::File;
+}
+
+/// Asks the disk, for links and for file systems whose listing does not tell the kind.
+DirectoryEntry askedEntry(DIR* directory, const char* name) {
+  struct stat info {};
+  DirectoryEntry entry{name};
+  if (fstatat(dirfd(directory), name, &info, AT_SYMLINK_NOFOLLOW) != 0) return entry;
+  entry.isLink = S_ISLNK(info.st_mode);
+  if (entry.isLink && fstatat(dirfd(directory), name, &info, 0) != 0) return entry;
+  entry.kind = kindOfMode(info.st_mode);
+  return entry;
+}
+
+DirectoryEntry entryOf(DIR* directory, const dirent& found) {
+  if (found.d_type == DT_LNK || found.d_type == DT_UNKNOWN) return askedEntry(directory, found.d_name);
+  return {found.d_name, found.d_type == DT_DIR ? EntryKind::Directory : EntryKind::File, false};
+}
+
+class PosixReader : public ByteReader {
+ public:
+  explicit PosixReader(FileDescriptor file) : m_file(std::move(file)) {}
+
+  /// A regular file gives less than was asked for only at its end, so that need not be asked for again.
+  Result<std::size_t> read(std::span<char> buffer) override {
+    while (!m_ended) {
+      const ssize_t got = ::read(m_file.number(), buffer.data(), buffer.size());
+      if (got < 0 && errno == EINTR) continue;
+      if (got < 0) return systemError(errno);
+      m_ended = static_cast<std::size_t>(got) < buffer.size();
+      return static_cast<std::size_t>(got);
+    }
+    return std::size_t{0};
+  }
+
+ private:
+  FileDescriptor m_file;
+  bool m_ended = false;
+};
+
+/// Opening a pipe without this flag would wait for its other end.
+constexpr int kReadFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
+}  // namespace
+
+Result<std::vector<DirectoryEntry>> PosixFiles::list(const FileUrl& directory) {
+  const OpenDirectory opened(opendir(directory.path().c_str()));
+  if (!opened) return systemError(errno, "directory");
+  std::vector<DirectoryEntry> entries;
+  errno = 0;
+  while (const dirent* found = readdir(opened.get())) {
+    if (found->d_name[0] != '.') entries.push_back(entryOf(opened.get(), *found));
+    errno = 0;
+  }
+  if (errno != 0) return systemError(errno, "directory");
+  std::sort(entries.begin(), entries.end(),
+            [](const DirectoryEntry& a, const DirectoryEntry& b) { return a.name < b.name; });
+  return entries;
+}
+
+EntryKind PosixFiles::kindOf(const FileUrl& url) {
+  struct stat info {};
+  if (stat(url.path().c_str(), &info) != 0) return EntryKind::Missing;
+  return kindOfMode(info.st_mode);
+}
+
+std::optional<FileIdentity> PosixFiles::identityOf(const FileUrl& url) {
+  struct stat info {};
+  if (stat(url.path().c_str(), &info) != 0) return std::nullopt;
+  return FileIdentity{static_cast<std::uint64_t>(info.st_dev), static_cast<std::uint64_t>(info.st_ino)};
+}
+
+Result<std::unique_ptr<ByteReader>> PosixFiles::open(const FileUrl& file) {
+  FileDescriptor opened(::open(file.path().c_str(), kReadFlags));
+  if (!opened) return systemError(errno);
+  struct stat info {};
+  if (fstat(opened.number(), &info) != 0) return systemError(errno);
+  if (S_ISDIR(info.st_mode)) return systemError(EISDIR);
+  if (!S_ISREG(info.st_mode)) return notARegularFile();
+  return std::unique_ptr<ByteReader>(std::make_unique<PosixReader>(std::move(opened)));
+}
+
+Outcome PosixFiles::createDirectory(const FileUrl& directory, bool intermediate) {
+  if (mkdir(directory.path().c_str(), 0777) == 0) return Done{};
+  const int code = errno;
+  if (!intermediate) return systemError(code, "directory");
+  if (kindOf(directory) == EntryKind::Directory) return Done{};
+  if (code != ENOENT || directory.parent() == directory) return systemError(code, "directory");
+  const Outcome above = createDirectory(directory.parent(), true);
+  if (!above) return above;
+  return createDirectory(directory, false);
+}
+
+Outcome PosixFiles::writeText(const FileUrl& file, std::string_view text) {
+  if (!isValidUtf8(text)) return Error{"The text cannot be written as UTF-8."};
+  return writeAtomically(file, text);
+}
+
+}  // namespace glossmill

@@ -1,0 +1,154 @@
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <semaphore>
+#include <string>
+#include <thread>
+
+#include "host/HostThreads.h"
+
+namespace glossmill {
+namespace {
+
+TEST(HostThreads, KnowsTheThreadThatMadeItAsTheMainThread) {
+  HostThreads threads;
+  bool mainInJob = true;
+  bool mainInHop = false;
+  threads.performInBackground([&] {
+    mainInJob = threads.isMainThread();
+    threads.performOnMainThreadAndWait([&] { mainInHop = threads.isMainThread(); });
+  });
+  threads.runUntilIdle();
+  EXPECT_TRUE(threads.isMainThread());
+  EXPECT_FALSE(mainInJob);
+  EXPECT_TRUE(mainInHop);
+}
+
+TEST(HostThreads, DoesWorkOfTheMainThreadAtOnce) {
+  HostThreads threads;
+  bool done = false;
+  threads.performOnMainThreadAndWait([&done] { done = true; });
+  EXPECT_TRUE(done);
+}
+
+TEST(HostThreads, AJobGoesOnOnlyAfterItsHop) {
+  HostThreads threads;
+  std::string log;
+  threads.performInBackground([&] {
+    for (int hop = 0; hop < 100; ++hop) {
+      threads.performOnMainThreadAndWait([&log] { log += 'm'; });
+      log += 'j';
+    }
+  });
+  threads.runUntilIdle();
+  std::string expected;
+  for (int hop = 0; hop < 100; ++hop) expected += "mj";
+  EXPECT_EQ(log, expected);
+}
+
+TEST(HostThreads, AHopOfTheFirstPhaseMayStartTheSecond) {
+  HostThreads threads;
+  std::string log;
+  threads.performInBackground([&] {
+    log += "one ";
+    threads.performOnMainThreadAndWait([&] {
+      log += "hand-off ";
+      threads.performInBackground([&] { threads.performOnMainThreadAndWait([&log] { log += "two"; }); });
+    });
+  });
+  threads.runUntilIdle();
+  EXPECT_EQ(log, "one hand-off two");
+  EXPECT_EQ(threads.jobsRunning(), 0);
+}
+
+TEST(HostThreads, CountsAJobUntilItHasEnded) {
+  HostThreads threads;
+  std::binary_semaphore mayEnd{0};
+  threads.performInBackground([&mayEnd] { mayEnd.acquire(); });
+  EXPECT_EQ(threads.jobsRunning(), 1);
+  mayEnd.release();
+  threads.runUntilIdle();
+  EXPECT_EQ(threads.jobsRunning(), 0);
+}
+
+TEST(HostThreads, ReturnsAtOnceWithoutAJob) {
+  HostThreads threads;
+  int ticks = 0;
+  threads.runUntilIdle([&ticks] { ++ticks; });
+  EXPECT_EQ(ticks, 0);
+}
+
+TEST(HostThreads, TicksWhileAJobKeepsToItself) {
+  HostThreads threads;
+  std::binary_semaphore mayEnd{0};
+  threads.performInBackground([&mayEnd] { mayEnd.acquire(); });
+  int ticks = 0;
+  threads.runUntilIdle([&] {
+    if (++ticks == 2) mayEnd.release();
+  });
+  EXPECT_GE(ticks, 2);
+}
+
+TEST(HostThreads, TicksWhileAJobNeverStopsHopping) {
+  HostThreads threads;
+  std::atomic<bool> canceled{false};
+  threads.performInBackground([&] {
+    while (!canceled) threads.performOnMainThreadAndWait([] {});
+  });
+  threads.runUntilIdle([&canceled] { canceled = true; });
+  EXPECT_TRUE(canceled);
+}
+
+TEST(HostThreads, WhatAJobHeldIsGoneWhenItIsIdle) {
+  HostThreads threads;
+  std::atomic<bool> gone{false};
+  const auto letGoSlowly = [&gone](const int* held) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(20);
+    while (std::chrono::steady_clock::now() < end) std::this_thread::yield();
+    delete held;
+    gone = true;
+  };
+  std::shared_ptr<int> held(new int(1), letGoSlowly);
+  threads.performInBackground([held = std::move(held)] { EXPECT_EQ(*held, 1); });
+  threads.runUntilIdle();
+  EXPECT_TRUE(gone);
+}
+
+TEST(HostThreads, JoiningAllDropsTheHopsAndWaitsForTheJobs) {
+  HostThreads threads;
+  bool hopped = false;
+  bool ended = false;
+  threads.performInBackground([&] {
+    threads.performOnMainThreadAndWait([&hopped] { hopped = true; });
+    ended = true;
+  });
+  threads.joinAll();
+  EXPECT_FALSE(hopped);
+  EXPECT_TRUE(ended);
+}
+
+TEST(HostThreads, StartsNoJobAfterJoiningAll) {
+  HostThreads threads;
+  threads.joinAll();
+  bool ran = false;
+  threads.performInBackground([&ran] { ran = true; });
+  threads.runUntilIdle();
+  EXPECT_FALSE(ran);
+}
+
+TEST(HostThreads, JoinsItsJobsWhenItGoesAway) {
+  bool ended = false;
+  {
+    HostThreads threads;
+    threads.performInBackground([&] {
+      threads.performOnMainThreadAndWait([] {});
+      ended = true;
+    });
+  }
+  EXPECT_TRUE(ended);
+}
+
+}  // namespace
+}  // namespace glossmill
