@@ -1,0 +1,7 @@
+#import <Foundation/Foundation.h>
+
+@interface VesselValidator : NSObject
+
+- (NSString *)problemWithForm:(id)form;
+
+@end

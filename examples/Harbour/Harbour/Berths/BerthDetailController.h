@@ -1,0 +1,9 @@
+#import <UIKit/UIKit.h>
+
+@class Berth;
+
+@interface BerthDetailController : UIViewController
+
+- (instancetype)initWithBerth:(Berth *)berth;
+
+@end

@@ -1,0 +1,8 @@
+#import <Foundation/Foundation.h>
+
+@interface FeeCalculator : NSObject
+
+- (double)feeForMetres:(double)metres nights:(int)nights;
+- (NSString *)explanation;
+
+@end

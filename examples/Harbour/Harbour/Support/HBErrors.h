@@ -1,0 +1,3 @@
+#import <Foundation/Foundation.h>
+
+NSString *HBErrorText(NSInteger code);

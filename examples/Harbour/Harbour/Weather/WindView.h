@@ -1,0 +1,5 @@
+#import <UIKit/UIKit.h>
+
+@interface WindView : UIView
+
+@end

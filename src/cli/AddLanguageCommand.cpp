@@ -1,0 +1,87 @@
+#include "cli/AddLanguageCommand.h"
+
+#include <memory>
+
+#include "cli/Paths.h"
+#include "cli/ProjectSession.h"
+#include "dialogs/SelectLanguageWindowController.h"
+
+namespace glossmill {
+
+namespace {
+
+constexpr int kBothCodeLengths = 2;
+
+struct AddLanguageOptions {
+  std::string directory;
+  std::string code;
+  bool save = false;
+  bool dryRun = false;
+};
+
+/// False when the project has the language, though the dialog would take it: at the next scan the strings file of the
+/// second directory would go to whatever language was found before.
+bool isNewLanguage(const ProjectSession& session, const std::string& code) {
+  for (const std::shared_ptr<Language>& language : *session.project().languagesList()) {
+    if (language->iso639() != code) continue;
+    const FileUrl& url = language->localizedStringUrl();
+    session.console().error("the project has the language \"" + code +
+                            "\" already: " + std::string(shownPath(session.project().projectDirectory(), url)));
+    return false;
+  }
+  return true;
+}
+
+/// Chooses the code in the add-language dialog, as a person would.
+void chooseInDialog(ProjectSession& session, const std::string& code) {
+  session.project().addLanguage();
+  HeadlessSelectLanguageWindow& form = *session.interfaces().selectLanguageWindow();
+  SelectLanguageWindowController& dialog = *form.owner;
+  form.isoPopUpButton.selectItemAtIndex(kBothCodeLengths);
+  dialog.changeFilter();
+  ArrayController<Language>& listed = dialog.languageController();
+  std::size_t row = 0;
+  while (row < listed.arrangedCount() && listed.arrangedObject(row)->iso639() != code) ++row;
+  listed.setSelectionIndex(row);
+  dialog.done();
+}
+
+ExitCode addLanguageToProject(ProjectSession& session, const AddLanguageOptions& options) {
+  const std::size_t before = session.project().languagesList()->size();
+  chooseInDialog(session, options.code);
+  const LanguageArray& languages = *session.project().languagesList();
+  if (languages.size() == before) return ExitCode::Unusable;
+  const bool saved = !options.save || session.project().saveLanguage(*languages.back());
+  session.reportFiles();
+  return saved ? ExitCode::Fine : ExitCode::Unusable;
+}
+
+ExitCode addNewLanguage(const AddLanguageOptions& options, Console& console) {
+  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun)});
+  const ExitCode opened = session.open(options.directory);
+  if (opened != ExitCode::Fine) return opened;
+  if (!session.requirePackage()) return ExitCode::Unusable;
+  if (!session.project().iso639Dict().nameOf(options.code)) {
+    console.error("\"" + options.code + "\" is no language code of ISO 639");
+    return ExitCode::WrongUsage;
+  }
+  if (!isNewLanguage(session, options.code)) return ExitCode::WrongUsage;
+  return addLanguageToProject(session, options);
+}
+
+}  // namespace
+
+void addAddLanguageCommand(CLI::App& program, CommandLine& line) {
+  const auto options = std::make_shared<AddLanguageOptions>();
+  CLI::App& command = addCommand(
+      program, line, {"add-language", "Create the directory of a new language", "~/Projects/Harbour sv --save"},
+      [options](Console& console) { return addNewLanguage(*options, console); });
+  addDirectory(command, options->directory);
+  command.add_option("CODE", options->code, "ISO 639 code of the language, two or three letters")
+      ->required()
+      ->option_text(" ");
+  command.add_flag("--save", options->save, "Write its strings file too");
+  addDryRun(command, options->dryRun);
+}
+
+}  // namespace glossmill

@@ -1,0 +1,51 @@
+#include "cli/CommandLine.h"
+
+#include <utility>
+
+namespace glossmill {
+
+Loudness CommandLine::loudness() const {
+  if (quiet) return Loudness::Quiet;
+  return verbose ? Loudness::Verbose : Loudness::Normal;
+}
+
+CLI::App& addCommand(CLI::App& program, CommandLine& line, const CommandTexts& texts,
+                     std::function<ExitCode(Console&)> run) {
+  CLI::App& command = *program.add_subcommand(texts.name, texts.description);
+  command.group("Commands");
+  command.footer("Example:\n  glossmill-cli " + texts.name + " " + texts.example);
+  program.footer(program.get_footer() + "\n  glossmill-cli " + texts.name + " " + texts.example);
+  command.final_callback([&line, action = std::move(run)] { line.run = action; });
+  addLoudness(command, line);
+  return command;
+}
+
+void addLoudness(CLI::App& app, CommandLine& line) {
+  CLI::Option* quiet = app.add_flag("-q,--quiet", line.quiet, "Print no messages but errors");
+  app.add_flag("-v,--verbose", line.verbose, "Print the lines of the system log too")
+      ->excludes(quiet)
+      ->option_text(" ");
+  quiet->option_text(" ");
+}
+
+void addDirectory(CLI::App& command, std::string& directory) {
+  command.add_option("DIR", directory, "Directory of the Xcode project")->required()->option_text(" ");
+}
+
+void addLanguage(CLI::App& command, std::string& code) {
+  command.add_option("-l,--language", code, "Code of the language, as in its .lproj directory")
+      ->required()
+      ->option_text("CODE");
+}
+
+void addLanguages(CLI::App& command, std::vector<std::string>& codes) {
+  command.add_option("-l,--language", codes, "Only this language; may be repeated")
+      ->allow_extra_args(false)
+      ->option_text("CODE");
+}
+
+void addDryRun(CLI::App& command, bool& dryRun) {
+  command.add_flag("-n,--dry-run", dryRun, "Say what would be written, and write nothing");
+}
+
+}  // namespace glossmill

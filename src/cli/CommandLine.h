@@ -1,0 +1,46 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "cli/Console.h"
+#include "cli/ExitCode.h"
+
+namespace glossmill {
+
+/// What was typed: the command to run, and how loud it is to be.
+struct CommandLine {
+  bool quiet = false;
+  bool verbose = false;
+  std::function<ExitCode(Console&)> run;
+
+  Loudness loudness() const;
+};
+
+/// How a command presents itself in the help.
+struct CommandTexts {
+  std::string name;
+  std::string description;
+  std::string example;  ///< what to type after the program's name
+};
+
+/// Adds a command with the options that every command has. It sets `line.run` when it was typed.
+CLI::App& addCommand(CLI::App& program, CommandLine& line, const CommandTexts& texts,
+                     std::function<ExitCode(Console&)> run);
+
+/// Adds --quiet and --verbose.
+void addLoudness(CLI::App& app, CommandLine& line);
+
+/// Adds the project directory, which every command needs.
+void addDirectory(CLI::App& command, std::string& directory);
+
+/// Adds --language, once and required, or any number of times.
+void addLanguage(CLI::App& command, std::string& code);
+void addLanguages(CLI::App& command, std::vector<std::string>& codes);
+
+/// Adds --dry-run, for a command that writes.
+void addDryRun(CLI::App& command, bool& dryRun);
+
+}  // namespace glossmill

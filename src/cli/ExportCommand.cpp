@@ -1,0 +1,69 @@
+#include "cli/ExportCommand.h"
+
+#include <memory>
+
+#include "cli/LanguageChoice.h"
+#include "cli/Paths.h"
+
+namespace glossmill {
+
+namespace {
+
+constexpr const char* kStandardOutput = "-";
+
+struct ExportOptions {
+  std::string directory;
+  std::string language;
+  std::string output;
+  bool untranslated = false;
+  bool dryRun = false;
+};
+
+/// Where the text goes; a name of its own stands for standard output.
+FileUrl exportTarget(ProjectSession& session, const ExportOptions& options) {
+  if (options.output != kStandardOutput) return absoluteUrl(options.output);
+  const FileUrl target(kStandardOutput);
+  session.files().divert(target, [&console = session.console(), dryRun = options.dryRun](std::string_view text) {
+    if (dryRun) {
+      console.message("would be printed: " + std::to_string(text.size()) + " bytes");
+    } else {
+      console.data(text);
+    }
+  });
+  return target;
+}
+
+ExitCode exportLanguage(const ExportOptions& options, Console& console) {
+  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun)});
+  const OpenedLanguage opened = openLanguage(session, options.directory, options.language);
+  if (opened.code != ExitCode::Fine) return opened.code;
+  const FileUrl target = exportTarget(session, options);
+  if (target.empty()) {
+    console.error("the name of the output file is empty");
+    return ExitCode::Unusable;
+  }
+  session.project().exportLanguageToFileAllStrings(opened.language, target, !options.untranslated);
+  const ExitCode finished = session.finishJob();
+  if (finished != ExitCode::Fine) return finished;
+  session.reportFiles();
+  return session.files().lastFailure() ? ExitCode::Unusable : ExitCode::Fine;
+}
+
+}  // namespace
+
+void addExportCommand(CLI::App& program, CommandLine& line) {
+  const auto options = std::make_shared<ExportOptions>();
+  CLI::App& command = addCommand(program, line,
+                                 {"export", "Write one language to a text file for a translator",
+                                  "~/Projects/Harbour --language de --untranslated --output Harbour_de.txt"},
+                                 [options](Console& console) { return exportLanguage(*options, console); });
+  addDirectory(command, options->directory);
+  addLanguage(command, options->language);
+  command.add_flag("-u,--untranslated", options->untranslated, "Only strings that have no translation");
+  command.add_option("-o,--output", options->output, "File to write, - for standard output")
+      ->required()
+      ->option_text("FILE");
+  addDryRun(command, options->dryRun);
+}
+
+}  // namespace glossmill

@@ -1,0 +1,43 @@
+#include "cli/FillCommand.h"
+
+#include <memory>
+
+#include "cli/LanguageChoice.h"
+
+namespace glossmill {
+
+namespace {
+
+struct FillOptions {
+  std::string directory;
+  std::string language;
+  bool dryRun = false;
+};
+
+ExitCode fill(const FillOptions& options, Console& console) {
+  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun)});
+  const OpenedLanguage opened = openLanguage(session, options.directory, options.language);
+  if (opened.code != ExitCode::Fine) return opened.code;
+  const std::size_t before = session.project().missingTranslations(*opened.language);
+  session.project().languageFromBaseLanguage(opened.language);
+  const ExitCode finished = session.finishJob();
+  if (finished != ExitCode::Fine) return finished;
+  const std::size_t filled = before - session.project().missingTranslations(*opened.language);
+  console.data("new entries  " + std::to_string(filled) + "\n\n");
+  return session.saveProject();
+}
+
+}  // namespace
+
+void addFillCommand(CLI::App& program, CommandLine& line) {
+  const auto options = std::make_shared<FillOptions>();
+  CLI::App& command = addCommand(program, line,
+                                 {"fill", "Give every missing entry of a language its key as translation, and save",
+                                  "~/Projects/Harbour --language en"},
+                                 [options](Console& console) { return fill(*options, console); });
+  addDirectory(command, options->directory);
+  addLanguage(command, options->language);
+  addDryRun(command, options->dryRun);
+}
+
+}  // namespace glossmill

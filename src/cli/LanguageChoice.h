@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/ProjectSession.h"
+
+namespace glossmill {
+
+/// The project's languages with these codes, in its order; all of them for no codes. Nothing when the project lacks
+/// one, which is explained on the console.
+std::optional<LanguageArray> chosenLanguages(const ProjectSession& session, const std::vector<std::string>& codes);
+
+/// A project that was opened for the sake of one language.
+struct OpenedLanguage {
+  ExitCode code = ExitCode::Fine;
+  std::shared_ptr<Language> language;  ///< set when the code is Fine
+};
+
+/// Opens the project and finds the language in it. Anything but Fine has been explained on the console.
+OpenedLanguage openLanguage(ProjectSession& session, const std::string& directory, const std::string& code);
+
+}  // namespace glossmill

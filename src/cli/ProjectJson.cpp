@@ -1,0 +1,48 @@
+#include "cli/ProjectJson.h"
+
+#include <nlohmann/json.hpp>
+
+#include "cli/JsonText.h"
+
+namespace glossmill {
+
+namespace {
+
+Json stringJson(const ProjectSession& session, const LocalizeString& record) {
+  const ProjectWindowController& project = session.project();
+  Json files = Json::array();
+  for (const FileUrl& file : record.filesArray()) files.push_back(jsonPath(session, file));
+  Json translations = Json::object();
+  // Codes come in the order of the languages, each once: the search for an earlier one is spared.
+  auto& entries = translations.get_ref<Json::object_t&>();
+  entries.reserve(record.languagesDict().count());
+  record.languagesDict().each(
+      [&entries](LanguageCode code, std::string_view text) { entries.emplace_back(code.text(), text); });
+  return {{"name", record.name()},
+          {"useCount", record.useCount()},
+          {"comments", record.commentArray()},
+          {"files", std::move(files)},
+          {"translations", std::move(translations)},
+          {"status", record.status(project.statusTexts(), &project)},
+          {"statusString", record.statusString(project.statusTexts(), &project)}};
+}
+
+}  // namespace
+
+void printProjectJson(const ProjectSession& session) {
+  const ProjectWindowController& project = session.project();
+  const LogWindowController* log = session.log();
+  JsonWriter writer(session.console());
+  writer.member("package", packageJson(session));
+  writer.list("files", project.fileList().size(),
+              [&](std::size_t i) { return jsonPath(session, project.fileList()[i]); });
+  writer.list("languages", project.languagesList()->size(),
+              [&](std::size_t i) { return languageJson(session, *(*project.languagesList())[i]); });
+  writer.list("strings", project.stringList().size(),
+              [&](std::size_t i) { return stringJson(session, *project.stringList()[i]); });
+  writer.list("log", log ? log->messageCount() : 0, [&](std::size_t i) { return log->message(i); });
+  writer.list("systemLog", session.systemLog().size(), [&](std::size_t i) { return session.systemLog()[i]; });
+  writer.end();
+}
+
+}  // namespace glossmill

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/AppDelegate.h"
+#include "cli/Console.h"
+#include "cli/ExitCode.h"
+#include "cli/ReportingFiles.h"
+#include "host/HeadlessHost.h"
+
+namespace glossmill {
+
+/// The whole application without a window, with one project open in it: what a person would see in windows goes to the
+/// console. Main thread.
+class ProjectSession {
+ public:
+  struct Options {
+    bool keepsSystemLog = false;
+    ReportingFiles::Mode files = ReportingFiles::Mode::Write;
+  };
+
+  /// `console` outlives the session.
+  ProjectSession(Console& console, Options options);
+
+  /// Opens the project in the directory and waits for the scan. Anything but Fine has been explained on the console.
+  ExitCode open(const std::string& directory);
+  /// Waits for the long job that was just started; Interrupted when Ctrl+C was pressed meanwhile.
+  ExitCode finishJob();
+  /// False when the directory holds no package, which is explained on the console.
+  bool requirePackage() const;
+  /// Saves every language and prints what became of each file; Unusable when one could not be written.
+  ExitCode saveProject();
+
+  ProjectWindowController& project() { return *m_delegate->projectWindowController(); }
+  const ProjectWindowController& project() const { return *m_delegate->projectWindowController(); }
+  const HeadlessInterfaceFiles& interfaces() const { return m_host.interfaces; }
+  ReportingFiles& files() { return m_files; }
+  Console& console() const { return m_console; }
+
+  /// Null as long as nothing was logged.
+  const LogWindowController* log() const { return m_delegate->logWindowController(); }
+  /// Empty unless the session was told to keep it.
+  const std::vector<std::string>& systemLog() const { return m_systemLog; }
+  /// Calls in the sources that the scan could not read as a key with a comment.
+  std::size_t rejectedCalls() const { return m_rejectedCalls; }
+
+  /// Prints what was written, or would have been, one file a line.
+  void reportFiles() const;
+
+ private:
+  Host hostParts();
+  void showLog(std::string_view wholeLog);
+  void takeSystemLogLine(std::string_view line);
+  AlertAnswer answerAlert(const AlertRequest& alert);
+  void tick();
+  std::string progressText() const;
+
+  Console& m_console;
+  const Options m_options;
+  std::vector<std::string> m_systemLog;
+  std::size_t m_rejectedCalls = 0;
+  std::size_t m_shownLog = 0;  ///< bytes of the log that are on the console
+  std::chrono::steady_clock::time_point m_jobStart;
+  HeadlessHost m_host;
+  ReportingFiles m_files;
+  /// Never deleted: giving a large project's memory back piece by piece would take longer than ending the program does.
+  AppDelegate* const m_delegate;
+};
+
+}  // namespace glossmill

@@ -1,0 +1,35 @@
+#include "cli/SaveCommand.h"
+
+#include <memory>
+
+#include "cli/ProjectSession.h"
+
+namespace glossmill {
+
+namespace {
+
+struct SaveOptions {
+  std::string directory;
+  bool dryRun = false;
+};
+
+ExitCode save(const SaveOptions& options, Console& console) {
+  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun)});
+  const ExitCode opened = session.open(options.directory);
+  if (opened != ExitCode::Fine) return opened;
+  if (!session.requirePackage()) return ExitCode::Unusable;
+  return session.saveProject();
+}
+
+}  // namespace
+
+void addSaveCommand(CLI::App& program, CommandLine& line) {
+  const auto options = std::make_shared<SaveOptions>();
+  CLI::App& command =
+      addCommand(program, line, {"save", "Rewrite the strings file of every language", "~/Projects/Harbour --dry-run"},
+                 [options](Console& console) { return save(*options, console); });
+  addDirectory(command, options->directory);
+  addDryRun(command, options->dryRun);
+}
+
+}  // namespace glossmill

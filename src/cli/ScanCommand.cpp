@@ -1,0 +1,68 @@
+#include "cli/ScanCommand.h"
+
+#include <memory>
+
+#include "cli/DisplayText.h"
+#include "cli/LanguageTable.h"
+#include "cli/Paths.h"
+#include "cli/ProjectJson.h"
+#include "cli/ProjectSession.h"
+#include "cli/TextTable.h"
+
+namespace glossmill {
+
+namespace {
+
+struct ScanOptions {
+  std::string directory;
+  bool json = false;
+};
+
+std::string projectTable(const ProjectSession& session) {
+  const ProjectWindowController& project = session.project();
+  const std::optional<FileUrl>& package = project.projectPackage();
+  TextTable table({TextTable::Align::Left, TextTable::Align::Left});
+  table.addRow(
+      {{"Package", Paint::Heading}, {package ? std::string(shownPath(project.projectDirectory(), *package)) : "none"}});
+  table.addRow({{"Source files", Paint::Heading}, {std::to_string(project.fileList().size())}});
+  table.addRow({{"Keys", Paint::Heading}, {std::to_string(project.stringList().size())}});
+  return table.text(session.console());
+}
+
+std::string rejectedText(std::size_t rejected) {
+  if (rejected == 0) return {};
+  return "\n" + counted(rejected, "call") + (rejected == 1 ? " in the sources was" : " in the sources were") +
+         " rejected.\n";
+}
+
+void printSummary(const ProjectSession& session) {
+  std::string text = projectTable(session);
+  const LanguageArray& languages = *session.project().languagesList();
+  if (!languages.empty()) text += "\n" + languageTable(session, languages);
+  session.console().data(text + rejectedText(session.rejectedCalls()));
+}
+
+ExitCode scan(const ScanOptions& options, Console& console) {
+  ProjectSession session(console, {.keepsSystemLog = options.json});
+  const ExitCode opened = session.open(options.directory);
+  if (opened != ExitCode::Fine) return opened;
+  if (options.json) {
+    printProjectJson(session);
+  } else {
+    printSummary(session);
+  }
+  return ExitCode::Fine;
+}
+
+}  // namespace
+
+void addScanCommand(CLI::App& program, CommandLine& line) {
+  const auto options = std::make_shared<ScanOptions>();
+  CLI::App& command = addCommand(
+      program, line, {"scan", "Show what a project holds: its languages, keys and gaps", "~/Projects/Harbour"},
+      [options](Console& console) { return scan(*options, console); });
+  addDirectory(command, options->directory);
+  command.add_flag("--json", options->json, "Print everything that was found as JSON");
+}
+
+}  // namespace glossmill

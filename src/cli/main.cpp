@@ -1,0 +1,96 @@
+#include <exception>
+#include <string>
+#include <vector>
+
+#include "cli/AddLanguageCommand.h"
+#include "cli/CheckCommand.h"
+#include "cli/CommandLine.h"
+#include "cli/Console.h"
+#include "cli/ExitCode.h"
+#include "cli/ExportCommand.h"
+#include "cli/FillCommand.h"
+#include "cli/ImportCommand.h"
+#include "cli/SaveCommand.h"
+#include "cli/ScanCommand.h"
+#include "cli/StatusCommand.h"
+#include "host/AllocatorSettings.h"
+
+namespace glossmill {
+
+namespace {
+
+constexpr const char* kExitCodes =
+    "\n\n"
+    "Exit codes:\n"
+    "  0    fine\n"
+    "  1    a language that was checked is not complete\n"
+    "  2    wrong usage, or a language that the project does not have\n"
+    "  3    the directory or a file cannot be used\n"
+    "  130  ended by Ctrl+C";
+
+void addEverything(CLI::App& program, CommandLine& line) {
+  program.set_version_flag("--version", "glossmill-cli " GLOSSMILL_VERSION);
+  program.set_help_flag("-h,--help", "Print this help");
+  program.require_subcommand(1);
+  program.get_formatter()->label("SUBCOMMAND", "COMMAND");
+  program.footer("Examples:");
+  addLoudness(program, line);
+  addScanCommand(program, line);
+  addStatusCommand(program, line);
+  addCheckCommand(program, line);
+  addSaveCommand(program, line);
+  addExportCommand(program, line);
+  addImportCommand(program, line);
+  addFillCommand(program, line);
+  addAddLanguageCommand(program, line);
+  program.footer(program.get_footer() + kExitCodes);
+}
+
+std::string commandProblem(const CLI::App& program) {
+  const std::vector<std::string> unknown = program.remaining();
+  return unknown.empty() ? "no command was given" : "there is no command \"" + unknown.front() + "\"";
+}
+
+/// Help and the version are no errors, though they end the reading of the command line like one.
+ExitCode explain(const CLI::App& program, const CLI::ParseError& problem, Console& console) {
+  if (problem.get_exit_code() == 0) {
+    program.exit(problem);
+    return ExitCode::Fine;
+  }
+  const auto typed = program.get_subcommands();
+  console.error(typed.empty() ? commandProblem(program) : problem.what());
+  const std::string command = typed.empty() ? "" : typed.front()->get_name() + " ";
+  console.message("Try: glossmill-cli " + command + "--help");
+  return ExitCode::WrongUsage;
+}
+
+ExitCode run(int count, const char* const* arguments, Console& console) {
+  CLI::App program("Keeps the translations of an Xcode project complete.", "glossmill-cli");
+  CommandLine line;
+  addEverything(program, line);
+  try {
+    program.parse(count, arguments);
+  } catch (const CLI::ParseError& problem) {
+    return explain(program, problem, console);
+  }
+  console.setLoudness(line.loudness());
+  const ExitCode code = line.run(console);
+  if (console.finish()) return code;
+  console.error("cannot write to standard output");
+  return ExitCode::Unusable;
+}
+
+}  // namespace
+
+}  // namespace glossmill
+
+int main(int argc, char** argv) {
+  glossmill::setAllocatorForScans();
+  glossmill::Console console;
+  try {
+    return static_cast<int>(glossmill::run(argc, argv, console));
+  } catch (const std::exception& problem) {
+    console.error(problem.what());
+  }
+  return static_cast<int>(glossmill::ExitCode::Unusable);
+}

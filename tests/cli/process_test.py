@@ -1,0 +1,157 @@
+#!/usr/bin/env python3
+"""glossmill-cli as a process among others: signals, terminals, full disks and file names of any kind.
+
+Usage: process_test.py PROGRAM
+"""
+
+import json
+import os
+import pathlib
+import pty
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+PROGRAM = ""
+TIME_LIMIT = 60  # seconds; only a program that hangs gets there
+# Each of them is a message, and all of them are far more than a pipe holds: who reads the pipe decides when they end.
+REJECTED_CALLS = 20_000
+
+
+class ProcessTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+        self.project = pathlib.Path(self.folder.name) / "App"
+        self.write("App.xcodeproj/project.pbxproj", "path = main.m;")
+        self.write("main.m", 'NSLocalizedString(@"Hello", @"Greeting");\n')
+        self.write("en.lproj/Localizable.strings", '"Hello" = "Hello";\n')
+
+    def write(self, name, text):
+        path = os.path.join(os.fsencode(self.project), name if isinstance(name, bytes) else name.encode())
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(text)
+
+    def start(self, command, **options):
+        process = subprocess.Popen([PROGRAM, command, str(self.project)], **options)
+        self.addCleanup(process.wait, TIME_LIMIT)
+        self.addCleanup(process.kill)
+        return process
+
+    def start_and_hold(self, command):
+        """Starts a command that is at work and cannot end before its messages are read."""
+        self.write("main.m", 'NSLocalizedString(x, @"")\n' * REJECTED_CALLS)
+        process = self.start(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        self.addCleanup(process.stdout.close)
+        self.addCleanup(process.stderr.close)
+        self.assertTrue(os.read(process.stderr.fileno(), 1))
+        return process
+
+    def output(self, *arguments):
+        run = subprocess.run([PROGRAM, *arguments, str(self.project)], capture_output=True, check=True)
+        return run.stdout.decode("utf-8")
+
+
+class Interrupt(ProcessTest):
+    def test_the_first_cancels_and_nothing_is_printed_or_written(self):
+        process = self.start_and_hold("save")
+        process.send_signal(signal.SIGINT)
+        stdout, stderr = process.communicate(timeout=TIME_LIMIT)
+        self.assertEqual(process.returncode, 130)
+        self.assertEqual(stdout, b"")
+        self.assertTrue(stderr.endswith(b"\nglossmill-cli: Canceled.\n"), stderr[-200:])
+        strings = self.project / "en.lproj" / "Localizable.strings"
+        self.assertEqual(strings.read_text(encoding="utf-8"), '"Hello" = "Hello";\n')
+
+    @unittest.skipUnless(os.path.exists("/proc/self/status"), "tells from /proc that the first one has arrived")
+    def test_the_second_ends_the_process(self):
+        process = self.start_and_hold("scan")
+        process.send_signal(signal.SIGINT)
+        deadline = time.monotonic() + TIME_LIMIT
+        while self.catches_interrupt(process) and time.monotonic() < deadline:
+            os.sched_yield()
+        process.send_signal(signal.SIGINT)
+        self.assertEqual(process.wait(TIME_LIMIT), -signal.SIGINT)
+
+    @staticmethod
+    def catches_interrupt(process):
+        lines = pathlib.Path(f"/proc/{process.pid}/status").read_text(encoding="ascii").splitlines()
+        caught = next(line.split()[1] for line in lines if line.startswith("SigCgt:"))
+        return int(caught, 16) >> (signal.SIGINT - 1) & 1
+
+    def test_a_process_that_was_told_to_ignore_it_goes_on(self):
+        def ignore():
+            signal.signal(signal.SIGINT, signal.SIG_IGN)
+
+        self.write("main.m", 'NSLocalizedString(x, @"")\n' * REJECTED_CALLS)
+        process = self.start("scan", stdout=subprocess.PIPE, stderr=subprocess.PIPE, preexec_fn=ignore)
+        self.assertTrue(os.read(process.stderr.fileno(), 1))
+        process.send_signal(signal.SIGINT)
+        stdout, _ = process.communicate(timeout=TIME_LIMIT)
+        self.assertEqual(process.returncode, 0)
+        self.assertIn(f"{REJECTED_CALLS} calls".encode(), stdout)
+
+
+class Progress(ProcessTest):
+    def test_a_long_job_shows_a_line_on_a_terminal_and_takes_it_away(self):
+        self.write("main.m", 'NSLocalizedString(x, @"")\n' * REJECTED_CALLS)
+        reader, writer = pty.openpty()
+        self.addCleanup(os.close, reader)
+        process = self.start("scan", stdout=subprocess.DEVNULL, stderr=writer, env=os.environ | {"TERM": "xterm"})
+        os.close(writer)
+        shown = os.read(reader, 1)
+        time.sleep(0.6)  # the job waits for its reader, so that it is a long one by now
+        shown += self.rest(reader)
+        self.assertEqual(process.wait(TIME_LIMIT), 0)
+        self.assertIn(b"Parsing project directory... 0 s\r\x1b[K", shown)
+        self.assertTrue(shown.endswith(b"\n"), shown[-200:])
+
+    @staticmethod
+    def rest(reader):
+        shown = b""
+        while True:
+            try:
+                chunk = os.read(reader, 65536)
+            except OSError:  # the last writer is gone
+                return shown
+            if not chunk:
+                return shown
+            shown += chunk
+
+
+class Output(ProcessTest):
+    @unittest.skipUnless(os.path.exists("/dev/full"), "there is no disk that is always full")
+    def test_a_full_disk_is_an_error(self):
+        with open("/dev/full", "wb") as full:
+            process = self.start("scan", stdout=full, stderr=subprocess.PIPE)
+            _, stderr = process.communicate(timeout=TIME_LIMIT)
+        self.assertEqual(process.returncode, 3)
+        self.assertIn(b"cannot write to standard output", stderr)
+
+    def test_names_with_control_characters_do_a_terminal_no_harm(self):
+        self.write("x\x1b[31m\n.lproj/Localizable.strings", '"Hello" = "Hi";\n')
+        table = self.output("scan", "--quiet")
+        self.assertIn("x\ufffd[31m\ufffd", table)
+        self.assertNotIn("\x1b", table)
+
+    def test_names_that_are_not_utf8_give_valid_json(self):
+        self.write(b"\xff.lproj/Localizable.strings", '"Hello" = "Hi";\n')
+        document = json.loads(self.output("scan", "--json", "--quiet"))
+        self.assertEqual([language["iso639"] for language in document["languages"]], ["en", "\ufffd"])
+        self.assertEqual(document["languages"][1]["path"], "\ufffd.lproj/Localizable.strings")
+
+    def test_wide_and_combining_characters_keep_the_columns_aligned(self):
+        self.write("日本.lproj/Localizable.strings", "")
+        self.write("e\u0301.lproj/Localizable.strings", "")
+        lines = self.output("scan", "--quiet").splitlines()
+        gap = {code: line.index(" - ") for line in lines for code in ("日本", "e\u0301") if line.startswith(code)}
+        self.assertEqual(gap, {"日本": 4, "e\u0301": 7})
+
+
+if __name__ == "__main__":
+    PROGRAM = sys.argv.pop(1)
+    unittest.main()
