@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/ApplicationServices.h"
+
+namespace glossmill {
+
+/// The running program: ending it ends the event loop, without closing windows one by one.
+class DesktopApplication : public Application {
+ public:
+  void terminate() override;
+
+  /// In the place of ending the event loop.
+  std::function<void()> onTerminate;
+  bool isTerminated() const { return m_isTerminated; }
+
+ private:
+  bool m_isTerminated = false;
+};
+
+}  // namespace glossmill

@@ -1,0 +1,48 @@
+#include "desktop/DesktopProgram.h"
+
+#include <QApplication>
+
+#include "desktop/HelpWindows.h"
+
+namespace glossmill {
+
+DesktopProgram::DesktopProgram(OwnTexts texts)
+    : m_bundle(std::move(texts)),
+      m_pump(m_threads.mailbox()),
+      m_panels(m_threads.mailbox(), m_bundle),
+      m_recentMenu([this](int tag) { return isRecentItemEnabled(tag); }),
+      m_actions(m_delegate, m_bundle),
+      m_interfaces({m_delegate, m_actions, m_sheets, m_panels, m_recentMenu, m_notifications, m_bundle, m_quitPath}),
+      m_delegate({m_files, m_defaults, m_notifications, m_threads, m_panels, m_sheets, m_interfaces, m_recentMenu,
+                  m_systemLog, m_bundle, m_application}),
+      m_quitPath(m_delegate, m_threads, m_panels) {
+  setUpHandlers();
+}
+
+/// Jobs use the project, so they end before it goes.
+DesktopProgram::~DesktopProgram() {
+  if (ProjectWindowController* project = m_delegate.projectWindowController()) project->longTimeCanceled();
+  m_threads.joinAll();
+}
+
+void DesktopProgram::setUpHandlers() {
+  m_actions.setHandler(CommandId::Quit, [this] { m_quitPath.request(); });
+  m_actions.setHandler(CommandId::LogWindow, [this] {
+    m_delegate.openLogWindow();
+    m_interfaces.activateLogWindow();
+  });
+  m_actions.setHandler(CommandId::KeyboardShortcuts, [this] { showShortcuts(QApplication::activeWindow(), m_bundle); });
+  m_actions.setHandler(CommandId::About, [this] { showAbout(QApplication::activeWindow(), m_bundle); });
+}
+
+bool DesktopProgram::isRecentItemEnabled(int tag) const {
+  return !m_actions.isCovered() && m_delegate.validateMenuItem(tag);
+}
+
+void DesktopProgram::start(const std::optional<FileUrl>& directory) {
+  m_panels.presetDirectory(directory);
+  m_delegate.applicationDidFinishLaunching();
+  m_panels.presetDirectory(std::nullopt);
+}
+
+}  // namespace glossmill

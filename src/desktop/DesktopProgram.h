@@ -1,0 +1,69 @@
+#pragma once
+
+#include <optional>
+
+#include "app/AppDelegate.h"
+#include "desktop/CommandActions.h"
+#include "desktop/DesktopApplication.h"
+#include "desktop/FocusRing.h"
+#include "desktop/InsideSheets.h"
+#include "desktop/MailboxPump.h"
+#include "desktop/OwnTexts.h"
+#include "desktop/QuitPath.h"
+#include "desktop/RecentMenu.h"
+#include "desktop/SettingsDefaults.h"
+#include "desktop/StderrSystemLog.h"
+#include "desktop/WidgetInterfaceFiles.h"
+#include "desktop/WidgetPanels.h"
+#include "host/EmbeddedBundle.h"
+#include "host/HostThreads.h"
+#include "host/LocalNotificationCenter.h"
+#include "host/PosixFiles.h"
+
+namespace glossmill {
+
+/// The desktop application: the real host, the application delegate, and the shell around its windows. Made after the
+/// QApplication, whose identity is set; main thread.
+class DesktopProgram {
+ public:
+  /// The program's own texts in the user's language.
+  explicit DesktopProgram(OwnTexts texts);
+  ~DesktopProgram();
+  DesktopProgram(const DesktopProgram&) = delete;
+  DesktopProgram& operator=(const DesktopProgram&) = delete;
+
+  /// Opens the windows, and the directory if one is given; else asks for one, which runs an event loop of its own.
+  void start(const std::optional<FileUrl>& directory);
+
+  AppDelegate& delegate() { return m_delegate; }
+  DesktopApplication& application() { return m_application; }
+  CommandActions& actions() { return m_actions; }
+  InsideSheets& sheets() { return m_sheets; }
+  WidgetPanels& panels() { return m_panels; }
+  QuitPath& quitPath() { return m_quitPath; }
+  RecentMenu& recentMenu() { return m_recentMenu; }
+  HostThreads& threads() { return m_threads; }
+
+ private:
+  bool isRecentItemEnabled(int tag) const;
+  void setUpHandlers();
+
+  EmbeddedBundle m_bundle;
+  PosixFiles m_files;
+  SettingsDefaults m_defaults;
+  LocalNotificationCenter m_notifications;
+  HostThreads m_threads;
+  MailboxPump m_pump;
+  WidgetPanels m_panels;
+  InsideSheets m_sheets;
+  StderrSystemLog m_systemLog;
+  DesktopApplication m_application;
+  RecentMenu m_recentMenu;
+  CommandActions m_actions;
+  WidgetInterfaceFiles m_interfaces;
+  AppDelegate m_delegate;  ///< owns the windows, so everything that they use stands above
+  QuitPath m_quitPath;
+  FocusRing m_focusRing;
+};
+
+}  // namespace glossmill

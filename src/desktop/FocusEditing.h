@@ -1,0 +1,13 @@
+#pragma once
+
+#include "app/Commands.h"
+
+namespace glossmill {
+
+// The commands of the Edit menu, carried out by whatever widget has the keyboard: a text, or the cell of a table, which
+// can be copied.
+
+bool canEdit(CommandId command);
+void edit(CommandId command);
+
+}  // namespace glossmill

@@ -1,0 +1,56 @@
+#include "desktop/QuitPath.h"
+
+#include <QEvent>
+#include <QScopedValueRollback>
+#include <QSessionManager>
+
+namespace glossmill {
+
+QuitPath::QuitPath(AppDelegate& delegate, HostThreads& threads, WidgetPanels& panels)
+    : m_delegate(delegate), m_threads(threads), m_panels(panels) {
+  QCoreApplication::instance()->installEventFilter(this);
+  connect(
+      qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) { endSession(session); },
+      Qt::DirectConnection);
+}
+
+/// A question that is up is to be answered first. A file panel is cancelled, and the quit follows when it is gone.
+void QuitPath::request() {
+  if (m_asking || m_panels.isAlertUp()) return;
+  if (m_panels.isFilePanelUp()) {
+    m_panels.cancelFilePanel();
+    QMetaObject::invokeMethod(
+        this, [this] { request(); }, Qt::QueuedConnection);
+    return;
+  }
+  const QScopedValueRollback asking(m_asking, true);
+  stopJob();
+  m_delegate.quit();
+}
+
+void QuitPath::stopJob() {
+  if (m_threads.jobsRunning() == 0) return;
+  if (ProjectWindowController* project = m_delegate.projectWindowController()) project->longTimeCanceled();
+  m_threads.runUntilIdle();
+}
+
+/// The default reaction closes the windows one by one, and a refusal by the second would leave the first one closed.
+bool QuitPath::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::Quit || watched != QCoreApplication::instance()) {
+    return QObject::eventFilter(watched, event);
+  }
+  event->ignore();
+  request();
+  return true;
+}
+
+void QuitPath::endSession(QSessionManager& session) {
+  const ProjectWindowController* project = m_delegate.projectWindowController();
+  if (!project || !project->changed()) return;
+  if (!session.allowsInteraction()) return;
+  request();
+  if (project->changed()) session.cancel();
+  session.release();
+}
+
+}  // namespace glossmill

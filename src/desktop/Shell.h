@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPointer>
+
+#include "desktop/CommandActions.h"
+#include "desktop/InsideSheets.h"
+#include "desktop/RecentMenu.h"
+#include "desktop/WidgetPanels.h"
+#include "platform/Bundle.h"
+#include "platform/NotificationCenter.h"
+
+namespace glossmill {
+
+class QuitPath;
+
+/// What the windows share of the application around them. All of it outlives the windows.
+struct Shell {
+  AppDelegate& delegate;
+  CommandActions& actions;
+  InsideSheets& sheets;
+  WidgetPanels& panels;
+  RecentMenu& recentMenu;
+  NotificationCenter& notifications;
+  const Bundle& bundle;
+  QuitPath& quitPath;
+};
+
+}  // namespace glossmill

@@ -1,0 +1,123 @@
+#include <QFileDialog>
+#include <QProgressBar>
+
+#include "desktop/DesktopFixture.h"
+#include "desktop/TestClasses.h"
+
+namespace glossmill {
+
+class ImportingTest : public DesktopFixture {
+  Q_OBJECT
+
+  static void enterFile(QFileDialog& panel, const QString& file) {
+    panel.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file);
+    QTest::keyClick(&panel, Qt::Key_Return);
+  }
+
+  void importGerman(const QByteArray& text) {
+    demo().write(QStringLiteral("in.txt"), text);
+    answerPanel([this](QFileDialog& panel) {
+      QCOMPARE(panel.windowTitle(), QStringLiteral("Select file"));
+      QVERIFY(panel.nameFilters().first().contains(QStringLiteral("*.txt *.rtf *.TXT *.RTF")));
+      enterFile(panel, demo().file(QStringLiteral("in.txt")));
+    });
+    press(Qt::Key_I, Qt::ControlModifier);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+  }
+
+ private Q_SLOTS:
+  void importsATranslatedFile() {
+    openDemo();
+    select(languages(), QStringLiteral("de"));
+    select(strings(), QStringLiteral("Good night"));
+    importGerman("\n--- 4 ---\n/* */\nGood night\nGute Nacht\n\n");
+    waitForJob();
+    QCOMPARE(cell(strings(), QStringLiteral("Good night"), 1), QStringLiteral("Gute Nacht"));
+    QCOMPARE(editor().toPlainText(), QStringLiteral("Gute Nacht"));
+    QCOMPARE(cell(languages(), QStringLiteral("de"), 2), QStringLiteral("1 missing"));
+    QVERIFY(!window().isWindowModified());
+  }
+
+  void importsNothingWhenTheFilePanelIsCancelled() {
+    openDemo();
+    answerPanel([](QFileDialog& panel) { panel.reject(); });
+    press(Qt::Key_I, Qt::ControlModifier);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QVERIFY(!project().longJobRunning());
+    QVERIFY(!isSheetUp());
+  }
+
+  void showsTheRightRowsAfterACancelledImport() {
+    demo().growBy(20000);
+    QByteArray text = "\n";
+    for (int number = 0; number < 20000; ++number) {
+      text += QStringLiteral("--- 1 ---\n/* */\nstring %1\nText %1\n\n").arg(number).toUtf8();
+    }
+    openDemo();
+    select(languages(), QStringLiteral("de"));
+    importGerman(text);
+    QVERIFY(waitBriefly([this] { return project().stringList()[5]->languagesDict().contains(LanguageCode("de")); }));
+    click(inSheet<QPushButton>("cancelButton"));
+    waitForJob();
+    QVERIFY(!isSheetUp());
+    QCOMPARE(cell(strings(), QStringLiteral("string 0"), 1), QStringLiteral("Text 0"));
+    QCOMPARE(cell(strings(), QStringLiteral("string 19999"), 1), QString());
+    worksLikeBefore();
+  }
+
+  void fillsABaseLanguage() {
+    openDemo();
+    select(languages(), QStringLiteral("de"));
+    select(strings(), QStringLiteral("Good night"));
+    press(Qt::Key_B, Qt::ControlModifier);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    waitForJob();
+    QCOMPARE(cell(strings(), QStringLiteral("Good night"), 1), QStringLiteral("Good night"));
+    QCOMPARE(cell(strings(), QStringLiteral("Open"), 1), QStringLiteral("Auf"));
+    QCOMPARE(editor().toPlainText(), QStringLiteral("Good night"));
+    QCOMPARE(cell(languages(), QStringLiteral("de"), 2), QStringLiteral("Complete"));
+    QVERIFY(window().isWindowModified());
+    QVERIFY(isEnabled(CommandId::Save));
+  }
+
+  void cancelsABaseLanguage() {
+    demo().growBy(20000);
+    openDemo();
+    select(languages(), QStringLiteral("de"));
+    project().languageFromBaseLanguage(project().selectedLanguage());
+    QVERIFY(waitBriefly([this] { return project().changed(); }));
+    click(inSheet<QPushButton>("cancelButton"));
+    waitForJob();
+    QVERIFY(!isSheetUp());
+    QCOMPARE(cell(strings(), QStringLiteral("string 0"), 1), QStringLiteral("string 0"));
+    QCOMPARE(cell(strings(), QStringLiteral("string 19999"), 1), QString());
+    QVERIFY(window().isWindowModified());
+  }
+
+ private:
+  /// Everything that a person does with the table still shows.
+  void worksLikeBefore() {
+    search().setText(QStringLiteral("greeting"));
+    QCOMPARE(firstColumn(strings()), QStringList({QStringLiteral("Good morning"), QStringLiteral("Good night")}));
+    search().clear();
+    select(strings(), QStringLiteral("Good night"));
+    editor().setFocus();
+    type(QStringLiteral("x"));
+    QCOMPARE(cell(strings(), QStringLiteral("Good night"), 1), QStringLiteral("x"));
+    filter().setFocus();
+    press(Qt::Key_Down);
+    QTRY_VERIFY(!firstColumn(strings()).contains(QStringLiteral("Open")));
+    QTRY_COMPARE(cell(strings(), QStringLiteral("Good night"), 1), QStringLiteral("x"));
+  }
+};
+
+static const TestRegistration<ImportingTest> kRegistration("Importing");
+
+}  // namespace glossmill
+
+#include "ImportingTest.moc"

@@ -1,0 +1,174 @@
+#include <QFileDialog>
+#include <QMenu>
+#include <QMimeData>
+#include <QSettings>
+
+#include "desktop/DesktopFixture.h"
+#include "desktop/TestClasses.h"
+
+namespace glossmill {
+
+class OpeningTest : public DesktopFixture {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void showsTheTablesOfTheDirectoryGivenAtStart() {
+    openDemo();
+    QCOMPARE(firstColumn(strings()),
+             QStringList({QStringLiteral("Open"), QStringLiteral("Close"), QStringLiteral("Good morning"),
+                          QStringLiteral("Good night"), QStringLiteral("First line\u21B5second line")}));
+    QCOMPARE(firstColumn(languages()), QStringList({QStringLiteral("ar"), QStringLiteral("de"), QStringLiteral("en")}));
+    QCOMPARE(cell(languages(), QStringLiteral("de"), 1), QStringLiteral("German"));
+    QCOMPARE(cell(languages(), QStringLiteral("de"), 2), QStringLiteral("2 missing"));
+    QCOMPARE(cell(languages(), QStringLiteral("de"), 3), QStringLiteral("60 %"));
+    QCOMPARE(cell(strings(), QStringLiteral("Open"), 2), QStringLiteral("Button"));
+    QCOMPARE(cell(strings(), QStringLiteral("Open"), 3), QStringLiteral("Demo.m"));
+    QCOMPARE(cell(strings(), QStringLiteral("Open"), 4), QStringLiteral("1"));
+    QCOMPARE(cell(strings(), QStringLiteral("Open"), 5), QStringLiteral("Complete"));
+    QCOMPARE(cell(strings(), QStringLiteral("Close"), 5), QStringLiteral("1 missing"));
+  }
+
+  void selectsTheFirstStringAndLanguage() {
+    openDemo();
+    QCOMPARE(strings().currentIndex().row(), 0);
+    QCOMPARE(languages().currentIndex().row(), 0);
+    QCOMPARE(editor().toPlainText(), QStringLiteral("\u0627\u0641\u062A\u062D"));
+    QCOMPARE(widget<QPlainTextEdit>("keyText").toPlainText(), QStringLiteral("Open"));
+    QVERIFY(widget<QPlainTextEdit>("commentText").toPlainText().contains(QStringLiteral("Demo.m")));
+  }
+
+  void givesTheKeyboardToTheStrings() {
+    openDemo();
+    QVERIFY(strings().hasFocus());
+    press(Qt::Key_Down);
+    QCOMPARE(strings().currentIndex().row(), 1);
+  }
+
+  void countsUnderTheTables() {
+    openDemo();
+    QCOMPARE(widget<QLabel>("stringCount").text(), QStringLiteral("Strings: 5"));
+    QCOMPARE(widget<QLabel>("languageCount").text(), QStringLiteral("Languages: 3"));
+  }
+
+  void namesTheWindowAfterTheProjectWhileTheScanStillRuns() {
+    startWith(demo().directory());
+    QCOMPARE(window().windowTitle(), QStringLiteral("Demo[*]"));
+    QVERIFY(project().longJobRunning());
+    QVERIFY(!window().isWindowModified());
+    waitForJob();
+  }
+
+  void asksForADirectoryWithoutOne() {
+    answerPanel([this](QFileDialog& panel) {
+      QCOMPARE(panel.windowTitle(), QStringLiteral("Choose project directory..."));
+      QCOMPARE(panel.fileMode(), QFileDialog::Directory);
+      QVERIFY(!panel.testOption(QFileDialog::ReadOnly));
+      QCOMPARE(panel.labelText(QFileDialog::Accept), QStringLiteral("Choose"));
+      panel.setDirectory(demo().directory());
+      panel.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(demo().directory());
+      QTest::keyClick(&panel, Qt::Key_Return);
+    });
+    program().start(std::nullopt);
+    QVERIFY(project().longJobRunning());
+    waitForJob();
+    QCOMPARE(strings().model()->rowCount(), 5);
+  }
+
+  void opensNothingWhenThePanelIsCancelled() {
+    answerPanel([](QFileDialog& panel) { panel.reject(); });
+    program().start(std::nullopt);
+    QVERIFY(!project().opened());
+    QVERIFY(!project().longJobRunning());
+    QVERIFY(window().isVisible());
+  }
+
+  void startsThePanelAtTheMostRecentProject() {
+    QSettings settings;
+    settings.setValue(QStringLiteral("RecentUrls"), QStringList({demo().directory()}));
+    settings.sync();
+    QString shown;
+    answerPanel([&shown](QFileDialog& panel) {
+      shown = panel.directory().path();
+      panel.reject();
+    });
+    program().start(std::nullopt);
+    QCOMPARE(shown, demo().directory());
+  }
+
+  void remembersTheProjectInTheRecentMenu() {
+    openDemo();
+    const QList<QAction*> items = program().recentMenu().menu().actions();
+    QCOMPARE(items.size(), 3);
+    QCOMPARE(items.first()->text(), demo().directory());
+    QVERIFY(items.at(1)->isSeparator());
+    QCOMPARE(items.last()->text(), QStringLiteral("Clear Menu"));
+    QCOMPARE(QSettings().value(QStringLiteral("RecentUrls")).toStringList(), QStringList({demo().directory()}));
+  }
+
+  void opensThePanelAtARecentProjectThatIsChosen() {
+    openDemo();
+    QString shown;
+    answerPanel([&shown](QFileDialog& panel) {
+      shown = panel.directory().path();
+      panel.reject();
+    });
+    program().recentMenu().menu().actions().first()->trigger();
+    QCOMPARE(shown, demo().directory());
+    QVERIFY(!project().opened());
+  }
+
+  void clearsTheRecentMenu() {
+    openDemo();
+    QMenu& menu = program().recentMenu().menu();
+    menu.actions().last()->trigger();
+    QCOMPARE(menu.actions().size(), 1);
+    Q_EMIT menu.aboutToShow();
+    QVERIFY(!menu.actions().first()->isEnabled());
+    QVERIFY(!QSettings().contains(QStringLiteral("RecentUrls")));
+  }
+
+  void showsAnAmpersandOfARecentPath() {
+    demo().write(QStringLiteral("a & b/x.xcodeproj/project.pbxproj"), "");
+    startWith(demo().file(QStringLiteral("a & b")));
+    waitForJob();
+    QVERIFY(program().recentMenu().menu().actions().first()->text().endsWith(QStringLiteral("/a && b")));
+  }
+
+  void opensAnEmptyProjectWithoutAPackage() {
+    demo().write(QStringLiteral("empty/readme"), "");
+    startWith(demo().file(QStringLiteral("empty")));
+    waitForJob();
+    QVERIFY(project().opened());
+    QCOMPARE(strings().model()->rowCount(), 0);
+    QVERIFY(!editor().isEnabled());
+    QVERIFY(program().delegate().logWindowController()->logText().find("Unable to find .xcodeproj") !=
+            std::string::npos);
+  }
+
+  void cancelsInPhaseOneWithEscape() {
+    startWith(demo().directory());
+    QTest::keyClick(&inSheet<QPushButton>("cancelButton"), Qt::Key_Escape);
+    waitForJob();
+    QVERIFY(!isSheetUp());
+    QVERIFY(!project().opened());
+    QCOMPARE(strings().model()->rowCount(), 0);
+  }
+
+  void leavesTheSheetUpWhenPhaseTwoIsCancelled() {
+    demo().growBy(20000);
+    startWith(demo().directory());
+    waitForPhaseTwo();
+    click(inSheet<QPushButton>("cancelButton"));
+    QTRY_COMPARE_WITH_TIMEOUT(program().threads().jobsRunning(), 0, 100000);
+    QCoreApplication::processEvents();
+    QVERIFY(isSheetUp());
+    QVERIFY(isEnabled(CommandId::Quit));
+    QVERIFY(!isEnabled(CommandId::Open));
+  }
+};
+
+static const TestRegistration<OpeningTest> kRegistration("Opening");
+
+}  // namespace glossmill
+
+#include "OpeningTest.moc"

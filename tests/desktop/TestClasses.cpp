@@ -1,0 +1,10 @@
+#include "desktop/TestClasses.h"
+
+namespace glossmill {
+
+std::map<std::string, TestMaker>& testClasses() {
+  static std::map<std::string, TestMaker> classes;
+  return classes;
+}
+
+}  // namespace glossmill

@@ -1,0 +1,113 @@
+#include <QTest>
+
+#include "app/Commands.h"
+#include "desktop/CellText.h"
+#include "desktop/CommandLine.h"
+#include "desktop/EditorText.h"
+#include "desktop/Icons.h"
+#include "desktop/LanguageDirection.h"
+#include "desktop/QtText.h"
+#include "desktop/ReadableColor.h"
+#include "desktop/SvgPath.h"
+#include "desktop/TestClasses.h"
+
+namespace glossmill {
+
+class TextsTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void textsComeThroughTheToolkitUnchanged() {
+    for (const std::string& text :
+         {std::string(), std::string("plain"), std::string("\xC3\xA4\xE6\x97\xA5\xF0\x9F\x98\x80"),
+          std::string("a\0b", 3), std::string("x\xED\xA0\xBDy"), std::string("\xED\xB0\x80")}) {
+      QCOMPARE(fromQt(toQt(text)), text);
+    }
+    QCOMPARE(toQt("a\xFFz"), QStringLiteral("a\uFFFDz"));
+    QCOMPARE(fromQt(QString(QChar(0xD83D)) + QChar(0xDE00)), std::string("\xF0\x9F\x98\x80"));
+  }
+
+  void editorsGetAndGiveTheSameText() {
+    const QString text = QStringLiteral("a\r\nb\u2028c\u2029d\u00A0e") + QChar(0xFDD0);
+    QVERIFY(!toEditorText(text).contains(QLatin1Char('\r')));
+    QCOMPARE(fromEditorText(toEditorText(text)), text);
+    QCOMPARE(fromEditorText(QStringLiteral("a\u2029b\u2028c")), QStringLiteral("a\nb\nc"));
+  }
+
+  void cellsShowOneLine() {
+    QCOMPARE(cellText("a\nb\r\nc"), QStringLiteral("a\u21B5b\u21B5c"));
+    QVERIFY(cellText(std::string(5000, 'x')).size() <= 400);
+    const QString cut = cellText("x" + std::string(5000, '\xC3').replace(0, 0, "") + "");
+    QVERIFY(cut.size() <= 400);
+    std::string umlauts = "x";
+    for (int number = 0; number < 500; ++number) umlauts += "\xC3\xA4";
+    QVERIFY(!cellText(umlauts).contains(QChar(QChar::ReplacementCharacter)));
+  }
+
+  void languagesKnowTheirDirection() {
+    for (const char* code : {"ar", "he", "fa", "ur", "ara", "heb", "ar-EG", "ur_PK", "iw"}) {
+      QCOMPARE(languageDirection(code), Qt::RightToLeft);
+    }
+    for (const char* code : {"", "de", "en", "ja", "arm", "pt-BR", "Arabic"}) {
+      QCOMPARE(languageDirection(code), Qt::LeftToRight);
+    }
+  }
+
+  void coloursCanBeReadOnLightAndDark() {
+    QPalette light(Qt::lightGray);
+    light.setColor(QPalette::Base, Qt::white);
+    QPalette dark(Qt::darkGray);
+    dark.setColor(QPalette::Base, QColor(0x1f, 0x21, 0x24));
+    for (const QPalette& palette : {light, dark}) {
+      for (const Color& color : {kRedColor, kGreenColor, kBlueColor}) {
+        QVERIFY(contrast(readableColor(color, palette), palette.color(QPalette::Base)) >= 4.5);
+      }
+      QCOMPARE(readableColor(kBlackColor, palette), palette.color(QPalette::Text));
+    }
+    QVERIFY(readableColor(kRedColor, dark).red() > readableColor(kRedColor, dark).green());
+    QCOMPARE(qRound(contrast(Qt::black, Qt::white)), 21);
+  }
+
+  void pathsAreDrawn() {
+    const QPainterPath square = svgPath(QStringLiteral("M1 1 H3 V3 h-2 z"));
+    QCOMPARE(square.boundingRect(), QRectF(1, 1, 2, 2));
+    QCOMPARE(svgPath(QStringLiteral("m1,1 2,2 l1-1")).currentPosition(), QPointF(4, 2));
+    QCOMPARE(svgPath(QStringLiteral("M0 0 C1 0 2 1 2 2")).currentPosition(), QPointF(2, 2));
+    QVERIFY(svgPath(QString()).isEmpty());
+    QCOMPARE(svgPath(QStringLiteral("M1 1 L2 2 ? L9 9")).currentPosition(), QPointF(2, 2));
+    svgPath(QStringLiteral("M1 1 z 5 5 z 5 5"));
+  }
+
+  void everyToolHasAPicture() {
+    for (const ToolBarItem& item : toolBarItems()) {
+      const QImage picture = icon(toQt(item.icon)).pixmap(48, 48).toImage();
+      QVERIFY(!picture.isNull());
+      bool inked = false;
+      for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) inked = inked || qAlpha(picture.pixel(x, y)) > 128;
+      }
+      QVERIFY2(inked, qPrintable(toQt(item.icon)));
+    }
+    QVERIFY(icon(QStringLiteral("nothing")).isNull());
+  }
+
+  void theCommandLineIsRead() {
+    const auto read = [](std::vector<const char*> arguments) {
+      arguments.insert(arguments.begin(), "glossmill");
+      return readCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2");
+    };
+    QVERIFY(!read({}).directory && read({}).answer.empty() && read({}).complaint.empty());
+    QCOMPARE(read({"--version"}).answer, std::string("glossmill 1.2\n"));
+    QVERIFY(read({"--help"}).answer.starts_with("Usage: glossmill [DIR]\n"));
+    QCOMPARE(read({"/"}).directory->path(), std::string("/"));
+    QCOMPARE(read({"/usr/../usr/"}).directory->path(), std::string("/usr"));
+    QCOMPARE(read({"/no/such"}).complaint, std::string("glossmill: there is no directory /no/such\n"));
+    QVERIFY(!read({"/no/such"}).directory);
+  }
+};
+
+static const TestRegistration<TextsTest> kRegistration("Texts");
+
+}  // namespace glossmill
+
+#include "TextsTest.moc"
