@@ -1,0 +1,40 @@
+// glossmill-bench-editing DIR SCRATCH: opens the project in DIR without a window and measures what a person does with
+// it: filter, edit, export, import, fill, save. Writes into the directory SCRATCH only.
+
+#include <cstdio>
+#include <string>
+
+#include "editing/EditTrials.h"
+#include "editing/HeadlessProject.h"
+#include "editing/JobTrials.h"
+#include "editing/SavingTrials.h"
+#include "host/AllocatorSettings.h"
+#include "timing/Findings.h"
+
+namespace {
+
+constexpr int kFilterRounds = 15;
+constexpr int kStatusRounds = 1000;
+constexpr int kJobRounds = 5;
+constexpr int kSavingRounds = 5;
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+  using namespace glossmill;
+  setAllocatorForScans();
+  if (argumentCount != 3) {
+    std::fputs("usage: glossmill-bench-editing DIR SCRATCH\n", stderr);
+    return 2;
+  }
+  const std::string scratch = arguments[2];
+  bench::HeadlessProject project(arguments[1]);
+  bench::SavingTrials(project.controller(), scratch).run(kSavingRounds);
+  bench::JobTrials(project.controller(), project.host().files, FileUrl(scratch), [&] {
+    project.host().runUntilIdle();
+  }).run("command line", kJobRounds);
+  bench::EditTrials edits(project);
+  edits.filter(kFilterRounds);
+  edits.statuses(kStatusRounds);
+  return 0;
+}

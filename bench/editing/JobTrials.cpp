@@ -1,0 +1,109 @@
+#include "editing/JobTrials.h"
+
+#include "edit/BaseLanguage.h"
+#include "exchange/ExportText.h"
+#include "exchange/ImportText.h"
+#include "platform/ReadText.h"
+#include "timing/Findings.h"
+
+namespace glossmill::bench {
+
+JobTrials::JobTrials(ProjectWindowController& project, Files& files, const FileUrl& scratch,
+                     std::function<void()> finishJob)
+    : m_project(project),
+      m_files(files),
+      m_exported(scratch.appending("exported.txt")),
+      m_finishJob(std::move(finishJob)),
+      m_full(project.languagesList()->front()),
+      m_added(std::make_shared<Language>()) {
+  m_added->setIso639("added-by-trials");
+  fillAll();  // makes room in every record, once for all trials
+  removeEntries();
+}
+
+void JobTrials::run(const std::string& where, int rounds) {
+  measure({"export", [this] { exportAll(); },
+           [this] { m_project.exportLanguageToFileAllStrings(m_full, m_exported, true); }},
+          where, rounds);
+  const std::size_t imported = importAll();
+  measure(
+      {"import", [this] { importAll(); }, [this] { m_project.importLanguageFromFile(m_added, m_exported); }, imported},
+      where, rounds);
+  measure({"base language", [this] { fillAll(); }, [this] { m_project.languageFromBaseLanguage(m_added); },
+           m_project.stringList().size()},
+          where, rounds);
+}
+
+void JobTrials::measure(const Trial& trial, const std::string& where, int rounds) {
+  Samples work;
+  Samples job;
+  for (int round = 0; round < rounds; ++round) {
+    removeEntries();
+    const Stopwatch workTime;
+    trial.work();
+    work.add(workTime.seconds());
+    checkEntries(trial);
+
+    removeEntries();
+    const Stopwatch jobTime;
+    trial.job();
+    m_finishJob();
+    job.add(jobTime.seconds());
+    checkEntries(trial);
+  }
+  removeEntries();
+  report(trial.name + ", " + where + ", the work", work);
+  report(trial.name + ", " + where + ", as a job", job);
+}
+
+void JobTrials::checkEntries(const Trial& trial) const {
+  if (entries() == trial.expectedEntries) return;
+  giveUp(trial.name + " made " + std::to_string(entries()) + " entries and not " +
+         std::to_string(trial.expectedEntries));
+}
+
+void JobTrials::exportAll() {
+  std::string text = kExportTextStart;
+  std::int64_t counter = 0;
+  for (const auto& record : m_project.stringList()) {
+    appendExportBlock(text, *record, ++counter, m_full->code(), true);
+  }
+  if (!m_files.writeText(m_exported, text)) giveUp("cannot write " + m_exported.path());
+}
+
+std::size_t JobTrials::importAll() {
+  const Result<std::string> text = readText(m_files, m_exported);
+  if (!text) giveUp("cannot read " + m_exported.path());
+  const ImportTable table = importTable(text.value());
+  for (const auto& record : m_project.stringList()) {
+    const auto found = table.find(record->name());
+    if (found != table.end()) record->languagesDict().set(m_added->code(), found->second);
+  }
+  return entries();
+}
+
+void JobTrials::fillAll() {
+  for (const auto& record : m_project.stringList()) fillFromKey(*record, m_added->code());
+}
+
+void JobTrials::removeEntries() {
+  for (const auto& record : m_project.stringList()) record->languagesDict().remove(m_added->code());
+}
+
+std::size_t JobTrials::entries() const {
+  std::size_t count = 0;
+  for (const auto& record : m_project.stringList()) count += record->languagesDict().contains(m_added->code()) ? 1 : 0;
+  return count;
+}
+
+void JobTrials::runLongJob(std::size_t times) {
+  auto& strings = m_project.stringController();
+  const StringArray once = m_project.stringList();
+  for (std::size_t time = 1; time < times; ++time) strings.addObjects(once);
+  m_project.languageFromBaseLanguage(m_added);
+  m_finishJob();
+  removeEntries();
+  strings.setContent(std::make_shared<StringArray>(once));
+}
+
+}  // namespace glossmill::bench

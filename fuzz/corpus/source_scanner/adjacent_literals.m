@@ -1,0 +1,2 @@
+NSLocalizedString(@"Part one " @"part two",
+   @"c")

@@ -1,0 +1,1 @@
+label.text = NSLocalizedString(@"Open", @"Menu title");

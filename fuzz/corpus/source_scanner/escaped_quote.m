@@ -1,0 +1,1 @@
+NSLocalizedString(@"Say \"Hi\"", @"greeting \"x\"")

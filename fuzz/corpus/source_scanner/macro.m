@@ -1,0 +1,2 @@
+#define NSLocalizedString(key, comment) [bundle localizedStringForKey:(key) value:@"" table:nil]
+#define X NSLocalizedString

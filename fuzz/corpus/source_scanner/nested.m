@@ -1,0 +1,1 @@
+NSLocalizedString(NSLocalizedString(NSLocalizedString(@"a", @"b"), @"c"), @"d"); NSLocalizedStringNSLocalizedString(@"e", @"f")

@@ -1,0 +1,1 @@
+NSLocalizedStringFromTable(@"k", @"Table", @"c"); nslocalizedstring(@"k", @"c"); NSLocalizedStringWithDefaultValue(@"k", nil, b, @"D", @"c");

@@ -1,0 +1,2 @@
+a = NSLocalizedString(@"Smile :)", @"face");
+b = NSLocalizedString(@"a (b", @"c"); f(x); } )

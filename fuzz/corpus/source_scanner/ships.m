@@ -1,0 +1,1 @@
+NSLocalizedString(@"🚢 Häfen", @"港"); NSLocalizedStringxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx🚢 nil

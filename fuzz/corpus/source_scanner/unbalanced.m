@@ -1,0 +1,1 @@
+NSLocalizedString((@"a", @"b"); NSLocalizedString(@"c", @"d"); ) NSLocalizedString(@"e", @"f"

@@ -1,0 +1,1 @@
+NSLocalizedString(keyVariable, @"c"); NSLocalizedString(@"k" @"c"); NSLocalizedString(@"", @"");
