@@ -1,0 +1,1 @@
+@"not in the project file"; NSLocalizedString(@"Window", @"");

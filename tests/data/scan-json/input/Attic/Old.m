@@ -1,0 +1,1 @@
+NSLocalizedString(@"Gone", @"Not in the project file");

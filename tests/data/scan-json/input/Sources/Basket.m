@@ -1,0 +1,1 @@
+NSLocalizedString(@"Café", @"Latin 1 cannot be read");

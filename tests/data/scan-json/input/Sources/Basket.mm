@@ -1,0 +1,1 @@
+NSLocalizedString(@"C++", @"");

@@ -1,0 +1,3 @@
+NSLocalizedString(@"Pick \"now\"", @"Button");
+NSLocalizedString(@"Pears/plums", @"");
+NSLocalizedString(@"Ladder", @"Tool");
