@@ -77,10 +77,8 @@ void addAddLanguageCommand(CLI::App& program, CommandLine& line) {
       program, line, {"add-language", "Create the directory of a new language", "~/Projects/Harbour sv --save"},
       [options](Console& console) { return addNewLanguage(*options, console); });
   addDirectory(command, options->directory);
-  command.add_option("CODE", options->code, "ISO 639 code of the language, two or three letters")
-      ->required()
-      ->option_text(" ");
-  command.add_flag("--save", options->save, "Write its strings file too");
+  addRequired(command, "CODE", options->code, "ISO 639 code of the language, two or three letters");
+  addFlag(command, "--save", options->save, "Write its strings file too");
   addDryRun(command, options->dryRun);
 }
 

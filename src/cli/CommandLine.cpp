@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
 
+#include <CLI/CLI.hpp>
 #include <utility>
 
 namespace glossmill {
@@ -28,14 +29,21 @@ void addLoudness(CLI::App& app, CommandLine& line) {
   quiet->option_text(" ");
 }
 
+void addFlag(CLI::App& command, const std::string& names, bool& isSet, const std::string& help) {
+  command.add_flag(names, isSet, help);
+}
+
+void addRequired(CLI::App& command, const std::string& names, std::string& value, const std::string& help,
+                 const std::string& shown) {
+  command.add_option(names, value, help)->required()->option_text(shown);
+}
+
 void addDirectory(CLI::App& command, std::string& directory) {
-  command.add_option("DIR", directory, "Directory of the Xcode project")->required()->option_text(" ");
+  addRequired(command, "DIR", directory, "Directory of the Xcode project");
 }
 
 void addLanguage(CLI::App& command, std::string& code) {
-  command.add_option("-l,--language", code, "Code of the language, as in its .lproj directory")
-      ->required()
-      ->option_text("CODE");
+  addRequired(command, "-l,--language", code, "Code of the language, as in its .lproj directory", "CODE");
 }
 
 void addLanguages(CLI::App& command, std::vector<std::string>& codes) {
@@ -45,7 +53,7 @@ void addLanguages(CLI::App& command, std::vector<std::string>& codes) {
 }
 
 void addDryRun(CLI::App& command, bool& dryRun) {
-  command.add_flag("-n,--dry-run", dryRun, "Say what would be written, and write nothing");
+  addFlag(command, "-n,--dry-run", dryRun, "Say what would be written, and write nothing");
 }
 
 }  // namespace glossmill

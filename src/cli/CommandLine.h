@@ -1,12 +1,15 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "cli/Console.h"
 #include "cli/ExitCode.h"
+
+namespace CLI {
+class App;
+}
 
 namespace glossmill {
 
@@ -39,6 +42,13 @@ void addDirectory(CLI::App& command, std::string& directory);
 /// Adds --language, once and required, or any number of times.
 void addLanguage(CLI::App& command, std::string& code);
 void addLanguages(CLI::App& command, std::vector<std::string>& codes);
+
+/// Adds an option without a value.
+void addFlag(CLI::App& command, const std::string& names, bool& isSet, const std::string& help);
+
+/// Adds an option or an argument that must be given; `shown` stands for its value in the help.
+void addRequired(CLI::App& command, const std::string& names, std::string& value, const std::string& help,
+                 const std::string& shown = " ");
 
 /// Adds --dry-run, for a command that writes.
 void addDryRun(CLI::App& command, bool& dryRun);

@@ -59,10 +59,8 @@ void addExportCommand(CLI::App& program, CommandLine& line) {
                                  [options](Console& console) { return exportLanguage(*options, console); });
   addDirectory(command, options->directory);
   addLanguage(command, options->language);
-  command.add_flag("-u,--untranslated", options->untranslated, "Only strings that have no translation");
-  command.add_option("-o,--output", options->output, "File to write, - for standard output")
-      ->required()
-      ->option_text("FILE");
+  addFlag(command, "-u,--untranslated", options->untranslated, "Only strings that have no translation");
+  addRequired(command, "-o,--output", options->output, "File to write, - for standard output", "FILE");
   addDryRun(command, options->dryRun);
 }
 

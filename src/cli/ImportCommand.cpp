@@ -97,7 +97,7 @@ void addImportCommand(CLI::App& program, CommandLine& line) {
                                   "~/Projects/Harbour --language de Harbour_de.txt"},
                                  [options](Console& console) { return importLanguage(*options, console); });
   addDirectory(command, options->directory);
-  command.add_option("FILE", options->file, "Text file that was exported and filled in")->required()->option_text(" ");
+  addRequired(command, "FILE", options->file, "Text file that was exported and filled in");
   addLanguage(command, options->language);
   addDryRun(command, options->dryRun);
 }

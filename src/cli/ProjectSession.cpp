@@ -13,7 +13,7 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::milliseconds kLongJob{500};
 constexpr std::string_view kRejectedCall = "Ignoring bad formatted String:";
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
   return std::string("\"").append(text).append("\"");
 }
 
@@ -67,7 +67,7 @@ ExitCode ProjectSession::open(const std::string& directory) {
   const FileUrl url = absoluteUrl(directory);
   const Outcome usable = usableDirectory(m_files, url);
   if (!usable) {
-    m_console.error("cannot open " + quoted(directory) + ": " + usable.error().sentence);
+    m_console.error("cannot open " + inQuotes(directory) + ": " + usable.error().sentence);
     return ExitCode::Unusable;
   }
   m_delegate->openProjectWindow();
@@ -86,7 +86,7 @@ ExitCode ProjectSession::finishJob() {
 
 bool ProjectSession::requirePackage() const {
   if (project().projectPackage()) return true;
-  m_console.error("there is no Xcode project in " + quoted(project().projectDirectory().path()));
+  m_console.error("there is no Xcode project in " + inQuotes(project().projectDirectory().path()));
   return false;
 }
 
@@ -127,7 +127,7 @@ void ProjectSession::takeSystemLogLine(std::string_view line) {
 AlertAnswer ProjectSession::answerAlert(const AlertRequest& alert) {
   if (const auto& failure = m_files.lastFailure()) {
     m_console.error(alert.message);
-    m_console.error("cannot write " + quoted(shownPath(project().projectDirectory(), failure->url)) + ": " +
+    m_console.error("cannot write " + inQuotes(shownPath(project().projectDirectory(), failure->url)) + ": " +
                     failure->error.sentence);
   } else if (m_options.files == ReportingFiles::Mode::Write) {
     m_console.message(alert.message);

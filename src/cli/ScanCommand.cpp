@@ -62,7 +62,7 @@ void addScanCommand(CLI::App& program, CommandLine& line) {
       program, line, {"scan", "Show what a project holds: its languages, keys and gaps", "~/Projects/Harbour"},
       [options](Console& console) { return scan(*options, console); });
   addDirectory(command, options->directory);
-  command.add_flag("--json", options->json, "Print everything that was found as JSON");
+  addFlag(command, "--json", options->json, "Print everything that was found as JSON");
 }
 
 }  // namespace glossmill

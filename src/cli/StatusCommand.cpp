@@ -96,8 +96,8 @@ void addStatusCommand(CLI::App& program, CommandLine& line) {
                                  [options](Console& console) { return status(*options, console); });
   addDirectory(command, options->directory);
   addLanguages(command, options->languages);
-  command.add_flag("--missing", options->missing, "List the missing keys with comment and file");
-  command.add_flag("--json", options->json, "Print it as JSON");
+  addFlag(command, "--missing", options->missing, "List the missing keys with comment and file");
+  addFlag(command, "--json", options->json, "Print it as JSON");
 }
 
 }  // namespace glossmill

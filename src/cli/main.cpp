@@ -1,3 +1,4 @@
+#include <CLI/CLI.hpp>
 #include <exception>
 #include <string>
 #include <vector>

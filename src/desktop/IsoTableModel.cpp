@@ -11,14 +11,14 @@ namespace glossmill {
 
 namespace {
 
-QStringList titles(const Bundle& bundle) {
+QStringList isoColumnTitles(const Bundle& bundle) {
   return {toQt(bundle.localizedString("Language")), toQt(bundle.localizedString("Code")), QString()};
 }
 
 }  // namespace
 
 IsoTableModel::IsoTableModel(ArrayController<Language>& languages, const Bundle& bundle)
-    : RecordTableModel(titles(bundle)),
+    : RecordTableModel(isoColumnTitles(bundle)),
       m_languages(languages),
       m_inProject(toQt(bundle.localizedString("in the project"))) {}
 

@@ -10,7 +10,7 @@ namespace glossmill {
 
 namespace {
 
-QStringList titles(const Bundle& bundle) {
+QStringList languageColumnTitles(const Bundle& bundle) {
   QStringList list;
   for (const char* key : {"Code", "Language", "Status", "Done"}) list.append(toQt(bundle.localizedString(key)));
   return list;
@@ -20,7 +20,7 @@ QStringList titles(const Bundle& bundle) {
 
 LanguageTableModel::LanguageTableModel(ArrayController<Language>& languages, ProjectWindowController& project,
                                        const Bundle& bundle)
-    : RecordTableModel(titles(bundle)),
+    : RecordTableModel(languageColumnTitles(bundle)),
       m_languages(languages),
       m_project(project),
       m_statusColor(project.statusTexts()) {}

@@ -11,7 +11,7 @@ namespace glossmill {
 
 namespace {
 
-QStringList titles(const Bundle& bundle) {
+QStringList stringColumnTitles(const Bundle& bundle) {
   QStringList list;
   for (const char* key : {"Key", "Translation", "Comment", "Files", "Uses", "Status"}) {
     list.append(toQt(bundle.localizedString(key)));
@@ -22,7 +22,7 @@ QStringList titles(const Bundle& bundle) {
 }  // namespace
 
 StringTableModel::StringTableModel(ProjectWindowController& project, const Bundle& bundle)
-    : RecordTableModel(titles(bundle)), m_project(project), m_statusColor(project.statusTexts()) {}
+    : RecordTableModel(stringColumnTitles(bundle)), m_project(project), m_statusColor(project.statusTexts()) {}
 
 QVariant StringTableModel::cell(std::size_t row, int column, int role) const {
   const LocalizeString& record = *m_project.stringController().arrangedObject(row);

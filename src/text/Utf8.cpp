@@ -8,7 +8,7 @@ namespace glossmill {
 
 namespace {
 
-unsigned byteAt(std::string_view text, std::size_t at) {
+unsigned valueAt(std::string_view text, std::size_t at) {
   return static_cast<unsigned char>(text[at]);
 }
 
@@ -35,7 +35,7 @@ SequenceRule ruleOf(unsigned lead) {
 std::size_t fittingBytes(std::string_view text, const SequenceRule& rule) {
   std::size_t count = 1;
   while (count < rule.length && count < text.size()) {
-    const unsigned byte = byteAt(text, count);
+    const unsigned byte = valueAt(text, count);
     const unsigned low = count == 1 ? rule.secondLow : 0x80;
     const unsigned high = count == 1 ? rule.secondHigh : 0xBF;
     if (byte < low || byte > high) return count;
@@ -50,7 +50,7 @@ std::size_t skipAscii(std::string_view text, std::size_t at) {
     const ByteBlock::Mask others = ByteBlock(text.data() + at).notAscii();
     if (others != 0) return at + static_cast<std::size_t>(std::countr_zero(others));
   }
-  while (at < text.size() && byteAt(text, at) < 0x80) ++at;
+  while (at < text.size() && valueAt(text, at) < 0x80) ++at;
   return at;
 }
 
@@ -60,7 +60,7 @@ bool isContinuation(unsigned byte) {
 
 /// The length of the valid sequence that stands at `at`, 0 when there is none.
 std::size_t sequenceLength(std::string_view text, std::size_t at) {
-  const SequenceRule rule = ruleOf(byteAt(text, at));
+  const SequenceRule rule = ruleOf(valueAt(text, at));
   return rule.length != 0 && fittingBytes(text.substr(at), rule) == rule.length ? rule.length : 0;
 }
 
@@ -68,11 +68,11 @@ std::size_t sequenceLength(std::string_view text, std::size_t at) {
 /// are left.
 std::size_t skipCommonSequences(std::string_view text, std::size_t at) {
   while (at + 4 <= text.size()) {
-    const unsigned lead = byteAt(text, at);
-    if (lead >= 0xC2 && lead <= 0xDF && isContinuation(byteAt(text, at + 1))) {
+    const unsigned lead = valueAt(text, at);
+    if (lead >= 0xC2 && lead <= 0xDF && isContinuation(valueAt(text, at + 1))) {
       at += 2;
-    } else if (lead >= 0xE1 && lead <= 0xEC && isContinuation(byteAt(text, at + 1)) &&
-               isContinuation(byteAt(text, at + 2))) {
+    } else if (lead >= 0xE1 && lead <= 0xEC && isContinuation(valueAt(text, at + 1)) &&
+               isContinuation(valueAt(text, at + 2))) {
       at += 3;
     } else {
       break;
@@ -88,7 +88,7 @@ std::size_t validUtf8Prefix(std::string_view bytes) {
   while (true) {
     // Text of other scripts comes in runs, so the sequences are taken one after the other before ASCII is looked for.
     at = skipCommonSequences(bytes, at);
-    while (at < bytes.size() && byteAt(bytes, at) >= 0x80) {
+    while (at < bytes.size() && valueAt(bytes, at) >= 0x80) {
       const std::size_t length = sequenceLength(bytes, at);
       if (length == 0) return at;
       at += length;
@@ -104,7 +104,7 @@ bool isValidUtf8(std::string_view bytes) {
 
 bool isCutUtf8Sequence(std::string_view bytes) {
   if (bytes.empty()) return false;
-  const SequenceRule rule = ruleOf(byteAt(bytes, 0));
+  const SequenceRule rule = ruleOf(valueAt(bytes, 0));
   return bytes.size() < rule.length && fittingBytes(bytes, rule) == bytes.size();
 }
 
@@ -114,10 +114,10 @@ void appendUtf8(std::string& text, char32_t codePoint) {
 }
 
 char32_t takeCodePoint(std::string_view& text) {
-  const unsigned lead = byteAt(text, 0);
+  const unsigned lead = valueAt(text, 0);
   const std::size_t length = lead < 0x80 ? 1 : ruleOf(lead).length;
   char32_t codePoint = length == 1 ? lead : lead & (0x7FU >> length);
-  for (std::size_t at = 1; at < length; ++at) codePoint = (codePoint << 6) | (byteAt(text, at) & 0x3F);
+  for (std::size_t at = 1; at < length; ++at) codePoint = (codePoint << 6) | (valueAt(text, at) & 0x3F);
   text.remove_prefix(length);
   return codePoint;
 }

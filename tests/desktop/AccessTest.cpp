@@ -131,7 +131,7 @@ class AccessTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<AccessTest> kRegistration("Access");
+static const TestRegistration<AccessTest> kAccessRegistration("Access");
 
 }  // namespace glossmill
 

@@ -139,7 +139,7 @@ class ClosingTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<ClosingTest> kRegistration("Closing");
+static const TestRegistration<ClosingTest> kClosingRegistration("Closing");
 
 }  // namespace glossmill
 

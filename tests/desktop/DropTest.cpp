@@ -76,7 +76,7 @@ class DropTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<DropTest> kRegistration("Drop");
+static const TestRegistration<DropTest> kDropRegistration("Drop");
 
 }  // namespace glossmill
 

@@ -192,7 +192,7 @@ class EditingTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<EditingTest> kRegistration("Editing");
+static const TestRegistration<EditingTest> kEditingRegistration("Editing");
 
 }  // namespace glossmill
 

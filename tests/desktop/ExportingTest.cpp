@@ -156,7 +156,7 @@ class ExportingTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<ExportingTest> kRegistration("Exporting");
+static const TestRegistration<ExportingTest> kExportingRegistration("Exporting");
 
 }  // namespace glossmill
 

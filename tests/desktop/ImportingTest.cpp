@@ -116,7 +116,7 @@ class ImportingTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<ImportingTest> kRegistration("Importing");
+static const TestRegistration<ImportingTest> kImportingRegistration("Importing");
 
 }  // namespace glossmill
 

@@ -174,7 +174,7 @@ class LanguagesTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<LanguagesTest> kRegistration("Languages");
+static const TestRegistration<LanguagesTest> kLanguagesRegistration("Languages");
 
 }  // namespace glossmill
 

@@ -161,7 +161,7 @@ class LogTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<LogTest> kRegistration("Log");
+static const TestRegistration<LogTest> kLogRegistration("Log");
 
 }  // namespace glossmill
 

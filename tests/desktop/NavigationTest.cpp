@@ -141,7 +141,7 @@ class NavigationTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<NavigationTest> kRegistration("Navigation");
+static const TestRegistration<NavigationTest> kNavigationRegistration("Navigation");
 
 }  // namespace glossmill
 

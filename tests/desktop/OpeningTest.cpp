@@ -167,7 +167,7 @@ class OpeningTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<OpeningTest> kRegistration("Opening");
+static const TestRegistration<OpeningTest> kOpeningRegistration("Opening");
 
 }  // namespace glossmill
 

@@ -162,7 +162,7 @@ class OwnTextsTest : public QObject {
   }
 };
 
-static const TestRegistration<OwnTextsTest> kRegistration("OwnTexts");
+static const TestRegistration<OwnTextsTest> kOwnTextsRegistration("OwnTexts");
 
 }  // namespace glossmill
 

@@ -174,7 +174,7 @@ class QuittingTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<QuittingTest> kRegistration("Quitting");
+static const TestRegistration<QuittingTest> kQuittingRegistration("Quitting");
 
 }  // namespace glossmill
 

@@ -188,7 +188,7 @@ class SearchTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<SearchTest> kRegistration("Search");
+static const TestRegistration<SearchTest> kSearchRegistration("Search");
 
 }  // namespace glossmill
 

@@ -168,7 +168,7 @@ class SheetsTest : public DesktopFixture {
   }
 };
 
-static const TestRegistration<SheetsTest> kRegistration("Sheets");
+static const TestRegistration<SheetsTest> kSheetsRegistration("Sheets");
 
 }  // namespace glossmill
 

@@ -200,7 +200,7 @@ class TablesTest : public QObject {
   }
 };
 
-static const TestRegistration<TablesTest> kRegistration("Tables");
+static const TestRegistration<TablesTest> kTablesRegistration("Tables");
 
 }  // namespace glossmill
 

@@ -106,7 +106,7 @@ class TextsTest : public QObject {
   }
 };
 
-static const TestRegistration<TextsTest> kRegistration("Texts");
+static const TestRegistration<TextsTest> kTextsRegistration("Texts");
 
 }  // namespace glossmill
 

@@ -13,9 +13,9 @@ constexpr int kTwoLetters = 0;
 constexpr int kThreeLetters = 1;
 constexpr int kBoth = 2;
 
-class RecordingDelegate : public SelectLanguageWindowControllerDelegate {
+class RecordingDialogDelegate : public SelectLanguageWindowControllerDelegate {
  public:
-  explicit RecordingDelegate(TestHost& host) : m_host(host) {}
+  explicit RecordingDialogDelegate(TestHost& host) : m_host(host) {}
 
   void selectLanguageWindowControllerDidSelect(SelectLanguageWindowController& dialog,
                                                std::shared_ptr<Language> language) override {
@@ -72,7 +72,7 @@ class SelectLanguage : public testing::Test {
   const IsoTable m_table =
       IsoTable::fromCsv("deu;de;German\rfra;fr;French\rast;;Asturian\rgre;el;Greek, Modern\rger;;German\r").value();
   std::shared_ptr<LanguageArray> m_used = std::make_shared<LanguageArray>();
-  RecordingDelegate m_delegate{m_host};
+  RecordingDialogDelegate m_delegate{m_host};
   std::unique_ptr<SelectLanguageWindowController> m_dialog;
 };
 

@@ -1,11 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "edit/BaseLanguage.h"
+#include "support/LanguageCodes.h"
 
 namespace glossmill {
 namespace {
-
-const LanguageCode kFrench("fr");
 
 LocalizeString openRecord() {
   LocalizeString record;

@@ -9,7 +9,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr const char* kOldGerman = "/* old */ \"Open\" = \"Öffnen\";\n";
+constexpr const char* kCommentedGerman = "/* old */ \"Open\" = \"Öffnen\";\n";
 constexpr const char* kNewGerman = "\n/* Menu */\n\"Open\" = \"Öffnen\"\n\n";
 
 /// Two strings; German has a strings file, French only its directory.
@@ -18,7 +18,7 @@ class Saving : public testing::Test {
   void SetUp() override {
     m_test.addString("Open", "Menu");
     m_test.addString("Close");
-    m_test.addLanguage("de", kOldGerman);
+    m_test.addLanguage("de", kCommentedGerman);
     m_test.addBareLanguage("fr");
     m_test.open();
   }
@@ -147,7 +147,7 @@ TEST_F(Saving, ReportsAFileThatCannotBeWrittenAndGoesOnWithTheNextLanguage) {
   EXPECT_EQ(m_test.host.panels.alerts.front().informativeText, "");
   EXPECT_EQ(m_test.host.panels.alerts.front().defaultButton, "Ok");
   EXPECT_TRUE(systemLogHolds("Error The disk is full. writing file: file:///x/App/de.lproj/Localizable.strings"));
-  EXPECT_EQ(m_test.savedFile("de"), kOldGerman);
+  EXPECT_EQ(m_test.savedFile("de"), kCommentedGerman);
   EXPECT_EQ(m_test.savedFile("fr"), "\n");
   EXPECT_FALSE(m_test.project().changed());
 }
@@ -170,7 +170,7 @@ TEST_F(Saving, RefusesTextThatUtf8CannotHoldAndLeavesTheFormerFileWhole) {
   m_test.setTranslation("Close", "de", "half a pair: \xED\xA0\xBD");
   EXPECT_FALSE(m_test.project().saveProject());
   EXPECT_EQ(m_test.alertMessages().front(), "Error saving Localizable.strings for language German");
-  EXPECT_EQ(m_test.savedFile("de"), kOldGerman);
+  EXPECT_EQ(m_test.savedFile("de"), kCommentedGerman);
 }
 
 TEST_F(Saving, WritesThroughALink) {

@@ -1,12 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "edit/StringsFileWriter.h"
+#include "support/LanguageCodes.h"
 
 namespace glossmill {
 namespace {
-
-const LanguageCode kFrench("fr");
-const LanguageCode kGerman("de");
 
 std::shared_ptr<LocalizeString> record(std::string_view key, std::vector<std::string> comments = {}) {
   auto made = std::make_shared<LocalizeString>();

@@ -1,11 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "exchange/ExportText.h"
+#include "support/LanguageCodes.h"
 
 namespace glossmill {
 namespace {
-
-const LanguageCode kFrench("fr");
 
 LocalizeString record(std::string_view key, std::vector<std::string> comments = {}) {
   LocalizeString made;

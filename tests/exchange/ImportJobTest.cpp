@@ -5,7 +5,7 @@
 namespace glossmill {
 namespace {
 
-constexpr const char* kFile = "/in/App_fr.txt";
+constexpr const char* kImported = "/in/App_fr.txt";
 constexpr const char* kTranslated =
     "\n--- 1 ---\n/* Menu */\nAdd\nAjouter\n\n--- 2 ---\n/*  */\nBold\nGras\n\n--- 3 ---\n/*  */\nCut\n\n\n";
 
@@ -20,11 +20,11 @@ class ImportJob : public testing::Test {
   }
 
   void import(std::string_view bytes) {
-    m_test.host.files.addFile(kFile, bytes);
+    m_test.host.files.addFile(kImported, bytes);
     importFile();
   }
   void importFile() {
-    m_test.project().importLanguageFromFile(m_test.language("fr"), FileUrl(kFile));
+    m_test.project().importLanguageFromFile(m_test.language("fr"), FileUrl(kImported));
     m_test.host.runUntilIdle();
   }
   std::vector<std::optional<std::string>> french() {
@@ -99,8 +99,8 @@ TEST_F(ImportJob, CountsEveryStringInTheSheet) {
   m_test.onProgress = [&](const HeadlessLongTimeSheet& sheet) {
     if (sheet.indicator.doubleValue > 0) values.push_back(sheet.indicator.doubleValue);
   };
-  m_test.host.files.addFile(kFile, "");
-  m_test.project().importLanguageFromFile(m_test.language("fr"), FileUrl(kFile));
+  m_test.host.files.addFile(kImported, "");
+  m_test.project().importLanguageFromFile(m_test.language("fr"), FileUrl(kImported));
   EXPECT_TRUE(m_test.sheetIsUp());
   EXPECT_EQ(m_test.sheet().title.stringValue, "Importing strings...");
   EXPECT_FALSE(m_test.sheet().indicator.isIndeterminate);
@@ -122,8 +122,8 @@ TEST_F(ImportJob, ReloadsBothTablesAndTheEditor) {
 }
 
 TEST_F(ImportJob, StaysSilentAboutAFileThatCannotBeRead) {
-  m_test.host.files.addFile(kFile, kTranslated);
-  m_test.host.files.failOpening(kFile, "Permission denied.");
+  m_test.host.files.addFile(kImported, kTranslated);
+  m_test.host.files.failOpening(kImported, "Permission denied.");
   const std::string log = m_test.application.logWindowController()->logText();
   const std::size_t systemLines = m_test.host.systemLog.lines().size();
   importFile();
@@ -149,8 +149,8 @@ TEST_F(ImportJob, StaysSilentAboutAFileThatIsNoText) {
 }
 
 TEST_F(ImportJob, AppliesNothingOfAFileThatBreaksOffInTheMiddle) {
-  m_test.host.files.addFile(kFile, kTranslated);
-  m_test.host.files.failReadingAfter(kFile, 40, "The cable was pulled.");
+  m_test.host.files.addFile(kImported, kTranslated);
+  m_test.host.files.failReadingAfter(kImported, 40, "The cable was pulled.");
   importFile();
   EXPECT_EQ(french(), m_before);
   expectEnded();
@@ -233,7 +233,7 @@ TEST_F(ImportJob, OfAnUnreadableFileEndsAsUsualAlsoWhenItIsCancelled) {
 }
 
 TEST_F(ImportJob, DoesNothingWithoutALanguageOrAFile) {
-  m_test.project().importLanguageFromFile(nullptr, FileUrl(kFile));
+  m_test.project().importLanguageFromFile(nullptr, FileUrl(kImported));
   m_test.project().importLanguageFromFile(m_test.language("fr"), FileUrl());
   EXPECT_EQ(m_test.host.threads.jobsRunning(), 0);
   EXPECT_FALSE(m_test.sheetIsUp());

@@ -5,12 +5,11 @@
 
 #include "exchange/ExportText.h"
 #include "exchange/ImportText.h"
+#include "support/LanguageCodes.h"
 #include "support/TestProject.h"
 
 namespace glossmill {
 namespace {
-
-const LanguageCode kFrench("fr");
 
 /// Makes text without slash, double quote and line feed, with a liking for what the formats could stumble over.
 class RandomText {

@@ -5,12 +5,11 @@
 #include <string>
 
 #include "model/LanguagesDict.h"
+#include "support/LanguageCodes.h"
 
 namespace glossmill {
 namespace {
 
-const LanguageCode kGerman("de");
-const LanguageCode kFrench("fr");
 const LanguageCode kItalian("it");
 
 using Entries = std::map<std::string, std::string>;

@@ -7,12 +7,10 @@
 #include "model/FakeBundle.h"
 #include "model/FakeProjectContext.h"
 #include "model/LocalizeString.h"
+#include "support/LanguageCodes.h"
 
 namespace glossmill {
 namespace {
-
-const LanguageCode kGerman("de");
-const LanguageCode kFrench("fr");
 
 LocalizeString translatedInto(std::initializer_list<LanguageCode> codes) {
   LocalizeString record;

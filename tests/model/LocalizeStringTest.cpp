@@ -6,11 +6,10 @@
 
 #include "model/FakeBundle.h"
 #include "model/LocalizeString.h"
+#include "support/LanguageCodes.h"
 
 namespace glossmill {
 namespace {
-
-const LanguageCode kGerman("de");
 
 LocalizeString commented(std::vector<std::string> comments) {
   LocalizeString record;

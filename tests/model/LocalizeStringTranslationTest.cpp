@@ -8,12 +8,10 @@
 #include "model/FakeProjectContext.h"
 #include "model/Language.h"
 #include "model/LocalizeString.h"
+#include "support/LanguageCodes.h"
 
 namespace glossmill {
 namespace {
-
-const LanguageCode kGerman("de");
-const LanguageCode kFrench("fr");
 
 std::shared_ptr<Language> languageOf(LanguageCode code) {
   auto language = std::make_shared<Language>();

@@ -3,12 +3,10 @@
 #include <memory>
 
 #include "model/TranslationCounts.h"
+#include "support/LanguageCodes.h"
 
 namespace glossmill {
 namespace {
-
-const LanguageCode kGerman("de");
-const LanguageCode kFrench("fr");
 
 StringArray threeRecords() {
   StringArray records;

@@ -3,11 +3,11 @@
 #include <string>
 
 #include "scan/SourceScanner.h"
+#include "support/Ship.h"
 
 namespace glossmill {
 namespace {
 
-constexpr const char* kShip = "\xF0\x9F\x9A\xA2";  // U+1F6A2, a surrogate pair in UTF-16
 constexpr const char* kCall = "NSLocalizedString";
 
 /// The excerpt of a bad call that goes on with `rest`.

@@ -5,14 +5,13 @@
 #include <vector>
 
 #include "scan/SourceScanner.h"
+#include "support/Ship.h"
 
 namespace glossmill {
 namespace {
 
 using Strings = std::vector<std::pair<std::string, std::string>>;  // name and comment
 using BadCalls = std::vector<std::string>;
-
-constexpr const char* kShip = "\xF0\x9F\x9A\xA2";  // U+1F6A2, a surrogate pair in UTF-16
 
 SourceScan scan(std::string_view text) {
   return scanSource(text, CancelFlag());

@@ -12,10 +12,10 @@ namespace {
 using Entries = std::vector<std::pair<std::string, std::string>>;
 using Diagnostics = std::vector<std::string>;
 
-const std::vector<std::string> kKeys = {"Open", "Close", "Path", "Say \\", ""};
+const std::vector<std::string> kPlainKeys = {"Open", "Close", "Path", "Say \\", ""};
 
 StringsFileFindings parse(std::string_view text) {
-  return parseStringsFile({text}, kKeys);
+  return parseStringsFile({text}, kPlainKeys);
 }
 
 void expectEntries(std::string_view text, const Entries& entries) {
@@ -171,7 +171,7 @@ TEST(StringsFileParser, GivesTheSameHoweverTheFileComesInPieces) {
     for (std::size_t second = first; second <= text.size(); ++second) {
       const std::vector<std::string_view> pieces = {view.substr(0, first), view.substr(first, second - first),
                                                     view.substr(second)};
-      ASSERT_EQ(parseStringsFile(pieces, kKeys), whole) << "cut at " << first << " and " << second;
+      ASSERT_EQ(parseStringsFile(pieces, kPlainKeys), whole) << "cut at " << first << " and " << second;
     }
   }
 }

@@ -5,12 +5,10 @@
 
 #include "scan/StringListBuilder.h"
 #include "scan/TranslationColumns.h"
+#include "support/LanguageCodes.h"
 
 namespace glossmill {
 namespace {
-
-const LanguageCode kGerman("de");
-const LanguageCode kFrench("fr");
 
 /// Three strings, numbered 0 to 2.
 class TranslationColumnsTest : public testing::Test {

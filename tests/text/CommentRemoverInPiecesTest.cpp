@@ -5,14 +5,13 @@
 #include <string_view>
 #include <vector>
 
+#include "support/Ship.h"
 #include "text/CommentRemover.h"
 #include "text/MarkedText.h"
 #include "text/ReferenceCommentRemover.h"
 
 namespace glossmill {
 namespace {
-
-constexpr const char* kShip = "\xF0\x9F\x9A\xA2";  // U+1F6A2, a surrogate pair in UTF-16
 
 /// The pieces of `text` when bit i of `cuts` cuts it after byte i.
 std::vector<std::string_view> cutAt(std::string_view text, unsigned cuts) {

@@ -3,13 +3,12 @@
 #include <string>
 #include <vector>
 
+#include "support/Ship.h"
 #include "text/CommentRemover.h"
 #include "text/MarkedText.h"
 
 namespace glossmill {
 namespace {
-
-constexpr const char* kShip = "\xF0\x9F\x9A\xA2";  // U+1F6A2, a surrogate pair in UTF-16
 
 TEST(CommentRemover, GivesNothingForTheEmptyText) {
   EXPECT_EQ(removeComments(""), "");

@@ -8,7 +8,7 @@
 namespace glossmill {
 namespace {
 
-std::string utf8(char32_t codePoint) {
+std::string bytesOf(char32_t codePoint) {
   std::string text;
   appendUtf8(text, codePoint);
   return text;
@@ -45,7 +45,7 @@ TEST(FoldCase, LeavesScriptsWithoutCapitals) {
 
 TEST(FoldCase, GivesEveryCharacterOfTwoBytesBackInTwoBytesAndNeverFoldsTwice) {
   for (char32_t codePoint = 0x80; codePoint < 0x800; ++codePoint) {
-    const std::string folded = foldCase(utf8(codePoint));
+    const std::string folded = foldCase(bytesOf(codePoint));
     ASSERT_EQ(folded.size(), 2U) << static_cast<unsigned>(codePoint);
     ASSERT_TRUE(isValidUtf8(folded)) << static_cast<unsigned>(codePoint);
     ASSERT_EQ(foldCase(folded), folded) << static_cast<unsigned>(codePoint);

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
+#include "support/Ship.h"
 #include "text/Utf16.h"
 
 namespace glossmill {
 namespace {
 
-constexpr const char* kShip = "\xF0\x9F\x9A\xA2";  // U+1F6A2, two units
 constexpr const char* kReplacement = "\xEF\xBF\xBD";
 
 TEST(Utf16Length, CountsNothingInTheEmptyText) {
