@@ -24,6 +24,7 @@ class ProjectFileNames {
     std::uint32_t dot;
   };
 
+  void dropRepeated();
   bool comesBefore(const Ending& a, const Ending& b) const;
   /// How the text before the ending compares with the stem, both read backwards: negative, 0 when it ends in the stem,
   /// positive.

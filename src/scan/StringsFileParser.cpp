@@ -81,7 +81,7 @@ void StringsFileParser::takeLine(const Line& line) {
 
 void StringsFileParser::takeValue(const Line& line, KeyIndex::Number key) {
   const std::size_t keyEnd = line.quotes[1];
-  const std::size_t equals = findByte(line.text, '=', keyEnd);
+  const std::size_t equals = findNearByte(line.text, '=', keyEnd);
   if (equals == line.text.size()) {
     reject(line.from(keyEnd));
     return;

@@ -27,6 +27,10 @@ class ByteBlock {
   Mask notAscii() const {
     return maskOf(m_bytes);
   }
+  /// The bytes that are not smaller than this one, without a sign.
+  Mask atLeast(unsigned char byte) const {
+    return maskOf(_mm_cmpeq_epi8(_mm_max_epu8(m_bytes, _mm_set1_epi8(static_cast<char>(byte))), m_bytes));
+  }
 
  private:
   static Mask maskOf(__m128i bytes) {
@@ -46,6 +50,9 @@ class ByteBlock {
   }
   Mask notAscii() const {
     return maskWhere([](char other) { return (other & 0x80) != 0; });
+  }
+  Mask atLeast(unsigned char byte) const {
+    return maskWhere([byte](char other) { return static_cast<unsigned char>(other) >= byte; });
   }
 
  private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstring>
@@ -14,6 +15,15 @@ inline std::size_t findByte(std::string_view text, char byte, std::size_t from) 
   if (from >= text.size()) return text.size();
   const void* found = std::memchr(text.data() + from, byte, text.size() - from);
   return found ? static_cast<std::size_t>(static_cast<const char*>(found) - text.data()) : text.size();
+}
+
+/// The same, quicker where the byte is only a few places away.
+inline std::size_t findNearByte(std::string_view text, char byte, std::size_t from) {
+  constexpr std::size_t kNear = 8;
+  for (const std::size_t end = std::min(from + kNear, text.size()); from < end; ++from) {
+    if (text[from] == byte) return from;
+  }
+  return findByte(text, byte, from);
 }
 
 /// The place of the first `one` or `other` in `text` at or after `from`, or the length of `text`.

@@ -1,7 +1,9 @@
 #include "text/TextDecoder.h"
 
 #include <algorithm>
+#include <bit>
 
+#include "text/UnitBlock.h"
 #include "text/Utf8.h"
 
 namespace glossmill {
@@ -9,7 +11,7 @@ namespace glossmill {
 namespace {
 
 constexpr std::size_t kSampleBytes = 4096;
-constexpr std::size_t kStep = 16;  ///< UTF-16 units that are looked at together
+constexpr char32_t kFirstStrange = 0x80;  ///< the first unit that is not ASCII
 
 const Error kMalformedUtf8{"The file is not valid UTF-8 and has no byte-order mark of another encoding."};
 const Error kMalformedUtf16{"The file is malformed UTF-16."};
@@ -42,25 +44,16 @@ DetectedEncoding detectByZeroBytes(std::string_view bytes) {
   return {TextEncoding::Utf8, 0};
 }
 
-/// Copies one step of units, whose low bytes come first or second, to `out`. False when they are not all ASCII; what
-/// was copied then is to be overwritten.
+/// Copies leading ASCII units to `out`, which has room for them all and a block more; returns how many.
 template <std::size_t LowByte>
-bool narrowStep(const char* units, char* out) {
-  unsigned char strange = 0;
-  for (std::size_t i = 0; i < kStep; ++i) {
-    const auto low = static_cast<unsigned char>(units[2 * i + LowByte]);
-    const auto high = static_cast<unsigned char>(units[2 * i + 1 - LowByte]);
-    strange = static_cast<unsigned char>(strange | high | (low & 0x80));
-    out[i] = static_cast<char>(low);
-  }
-  return strange == 0;
-}
-
-/// Copies leading ASCII units, in whole steps, to `out`, which has room for them; returns how many.
-std::size_t narrowAscii(const char* units, std::size_t count, std::size_t lowByte, char* out) {
-  const auto step = lowByte == 0 ? narrowStep<0> : narrowStep<1>;
+std::size_t narrowAscii(const char* units, std::size_t count, char* out) {
   std::size_t at = 0;
-  while (at + kStep <= count && step(units + 2 * at, out + at)) at += kStep;
+  while (at + UnitBlock::kSize <= count) {
+    const UnitBlock block(units + 2 * at, LowByte);
+    block.narrow(out + at);
+    if (block.notAscii() != 0) return at + static_cast<std::size_t>(std::countr_zero(block.notAscii()));
+    at += UnitBlock::kSize;
+  }
   return at;
 }
 
@@ -166,21 +159,24 @@ Outcome TextDecoder::feedWhole(std::string_view bytes, std::size_t unit, const F
   return feed(bytes.substr(0, length));
 }
 
-/// Runs of ASCII go through the quick loop; where it stops, one step of units is taken one by one.
+/// Runs of ASCII go through the quick loop; where it stops, units are taken one by one until ASCII comes again.
 Outcome TextDecoder::feedUtf16(std::string_view bytes, const Sink& sink) {
   const std::size_t lowByte = m_detected.encoding == TextEncoding::Utf16LittleEndian ? 0 : 1;
+  const auto narrow = lowByte == 0 ? narrowAscii<0> : narrowAscii<1>;
   const std::size_t count = bytes.size() / 2;
-  m_decoded.resize(count * 3 + 4);  // no unit takes more than three bytes; four for a pair cut by the piece before
+  // No unit takes more than three bytes; four for a pair cut by the piece before.
+  m_decoded.resize(count * 3 + 4 + UnitBlock::kSize);
   char* out = m_decoded.data();
   char32_t highSurrogate = m_highSurrogate;
   for (std::size_t at = 0; at < count;) {
     if (highSurrogate == 0) {
-      const std::size_t ascii = narrowAscii(bytes.data() + 2 * at, count - at, lowByte, out);
+      const std::size_t ascii = narrow(bytes.data() + 2 * at, count - at, out);
       at += ascii;
       out += ascii;
     }
-    for (const std::size_t end = std::min(at + kStep, count); at < end; ++at) {
-      const char32_t unit = byteAt(bytes, 2 * at + lowByte) | (byteAt(bytes, 2 * at + 1 - lowByte) << 8);
+    char32_t unit = kFirstStrange;
+    for (; at < count && unit >= kFirstStrange; ++at) {
+      unit = byteAt(bytes, 2 * at + lowByte) | (byteAt(bytes, 2 * at + 1 - lowByte) << 8);
       if (!takeUtf16Unit(unit, highSurrogate, out)) return kMalformedUtf16;
     }
   }

@@ -1,6 +1,6 @@
 #include "text/Utf8.h"
 
-#include <bit>
+#include <optional>
 
 #include "text/ByteBlock.h"
 
@@ -44,16 +44,6 @@ std::size_t fittingBytes(std::string_view text, const SequenceRule& rule) {
   return count;
 }
 
-/// The place of the first byte at or after `at` that is not ASCII.
-std::size_t skipAscii(std::string_view text, std::size_t at) {
-  for (; at + ByteBlock::kSize <= text.size(); at += ByteBlock::kSize) {
-    const ByteBlock::Mask others = ByteBlock(text.data() + at).notAscii();
-    if (others != 0) return at + static_cast<std::size_t>(std::countr_zero(others));
-  }
-  while (at < text.size() && valueAt(text, at) < 0x80) ++at;
-  return at;
-}
-
 bool isContinuation(unsigned byte) {
   return (byte & 0xC0) == 0x80;
 }
@@ -64,38 +54,56 @@ std::size_t sequenceLength(std::string_view text, std::size_t at) {
   return rule.length != 0 && fittingBytes(text.substr(at), rule) == rule.length ? rule.length : 0;
 }
 
-/// Skips the sequences that most text is made of, two bytes or three with no limit on the second, as long as four bytes
-/// are left.
-std::size_t skipCommonSequences(std::string_view text, std::size_t at) {
-  while (at + 4 <= text.size()) {
-    const unsigned lead = valueAt(text, at);
-    if (lead >= 0xC2 && lead <= 0xDF && isContinuation(valueAt(text, at + 1))) {
-      at += 2;
-    } else if (lead >= 0xE1 && lead <= 0xEC && isContinuation(valueAt(text, at + 1)) &&
-               isContinuation(valueAt(text, at + 2))) {
-      at += 3;
-    } else {
-      break;
-    }
+/// The place of the first invalid sequence in front of `end`, or where the sequence that reaches `end` is over.
+std::size_t checkOneByOne(std::string_view text, std::size_t at, std::size_t end) {
+  while (at < end) {
+    const std::size_t length = valueAt(text, at) < 0x80 ? 1 : sequenceLength(text, at);
+    if (length == 0) return at;
+    at += length;
   }
+  return at;
+}
+
+/// Checks a block whose first bytes, where `carried` has bits, belong to a sequence of the block before. Returns the
+/// same for the next block, or nothing when the block holds what has to be looked at one by one: a mistake, four bytes
+/// to a character, or at its end a lead whose second byte has limits of its own.
+std::optional<ByteBlock::Mask> checkBlock(const ByteBlock& block, ByteBlock::Mask carried) {
+  constexpr ByteBlock::Mask kWhole = 0xFFFF;
+  const ByteBlock::Mask leads = block.atLeast(0xC0);
+  if (block.atLeast(0xF0) != 0 || block.atLeast(0xC2) != leads) return std::nullopt;
+  const ByteBlock::Mask continuations = carried | leads << 1 | block.atLeast(0xE0) << 2;
+  if ((continuations & kWhole) != (block.notAscii() & ~leads)) return std::nullopt;
+  const ByteBlock::Mask wantHigh = block.equal('\xE0') << 1;
+  const ByteBlock::Mask wantLow = block.equal('\xED') << 1;
+  if (wantHigh != 0 || wantLow != 0) {
+    const ByteBlock::Mask high = block.atLeast(0xA0);
+    if ((wantHigh & ~high) != 0 || (wantLow & (high | ~kWhole)) != 0) return std::nullopt;
+  }
+  return continuations >> ByteBlock::kSize;
+}
+
+/// Where the sequence starts that reaches `at`, or `at`.
+std::size_t startOfSequence(std::string_view text, std::size_t at, ByteBlock::Mask carried) {
+  if (carried == 0) return at;
+  do --at;
+  while (isContinuation(valueAt(text, at)));
   return at;
 }
 
 }  // namespace
 
 std::size_t validUtf8Prefix(std::string_view bytes) {
+  ByteBlock::Mask carried = 0;
   std::size_t at = 0;
-  while (true) {
-    // Text of other scripts comes in runs, so the sequences are taken one after the other before ASCII is looked for.
-    at = skipCommonSequences(bytes, at);
-    while (at < bytes.size() && valueAt(bytes, at) >= 0x80) {
-      const std::size_t length = sequenceLength(bytes, at);
-      if (length == 0) return at;
-      at += length;
-    }
-    at = skipAscii(bytes, at);
-    if (at == bytes.size()) return at;
+  while (at + ByteBlock::kSize <= bytes.size()) {
+    const ByteBlock block(bytes.data() + at);
+    const std::size_t end = at + ByteBlock::kSize;
+    const auto next = block.notAscii() == 0 && carried == 0 ? carried : checkBlock(block, carried);
+    at = next ? end : checkOneByOne(bytes, startOfSequence(bytes, at, carried), end);
+    if (at < end) return at;
+    carried = next.value_or(0);
   }
+  return checkOneByOne(bytes, startOfSequence(bytes, at, carried), bytes.size());
 }
 
 bool isValidUtf8(std::string_view bytes) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -124,6 +125,54 @@ TEST(ValidUtf8, PassesSequencesAmongAsciiAtEveryPlace) {
       const std::string text = ascii + utf8Of(codePoint) + ascii + utf8Of(codePoint);
       EXPECT_EQ(validUtf8Prefix(text), text.size());
     }
+  }
+}
+
+/// The rules as a table: what each lead byte allows its second byte to be; further bytes are 80 to BF.
+std::size_t plainSequenceLength(std::string_view text) {
+  const auto byte = [&](std::size_t at) { return at < text.size() ? static_cast<unsigned char>(text[at]) : 0U; };
+  const auto within = [](unsigned value, unsigned low, unsigned high) { return value >= low && value <= high; };
+  const auto further = [&](std::size_t at) { return within(byte(at), 0x80, 0xBF); };
+  const unsigned lead = byte(0);
+  if (lead < 0x80) return 1;
+  if (within(lead, 0xC2, 0xDF)) return further(1) ? 2 : 0;
+  const unsigned low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+  const unsigned high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+  if (!within(byte(1), low, high) || !further(2)) return 0;
+  if (within(lead, 0xE0, 0xEF)) return 3;
+  return within(lead, 0xF0, 0xF4) && further(3) ? 4 : 0;
+}
+
+std::size_t plainPrefix(std::string_view text) {
+  std::size_t at = 0;
+  while (at < text.size()) {
+    const std::size_t length = plainSequenceLength(text.substr(at));
+    if (length == 0) break;
+    at += length;
+  }
+  return at;
+}
+
+TEST(ValidUtf8, AgreesWithThePlainRulesOnDenseText) {
+  const std::vector<std::string> parts = {"a",
+                                          "bc",
+                                          "\xC3\xA4",
+                                          "\xDF\xBF",
+                                          "\xE0\xA4\x95",
+                                          "\xE2\x82\xAC",
+                                          "\xED\x9F\xBF",
+                                          "\xEE\x80\x80",
+                                          "\xF0\x9F\x9A\xA2"};
+  std::mt19937 random(20240930);
+  const auto below = [&random](std::size_t count) { return random() % count; };
+  for (int round = 0; round < 20'000; ++round) {
+    const std::size_t kinds = 1 + below(parts.size());
+    std::string text(below(17), 'x');
+    for (std::size_t part = below(60); part > 0; --part) text += parts[below(kinds)];
+    for (std::size_t damage = below(3); damage > 0 && !text.empty(); --damage) {
+      text[below(text.size())] = static_cast<char>(below(256));
+    }
+    ASSERT_EQ(validUtf8Prefix(text), plainPrefix(text)) << testing::PrintToString(text);
   }
 }
 
