@@ -12,7 +12,8 @@ void setUpLanguageColumns(QTableView& view) {
   QHeaderView& header = *view.horizontalHeader();
   constexpr int kColumnWidths[] = {66, 110, 92, 54};
   for (int column = 0; column < header.count(); ++column) header.resizeSection(column, kColumnWidths[column]);
-  header.setStretchLastSection(true);
+  // The name takes what the others leave, so that nothing is cut off when a scroll bar comes.
+  header.setSectionResizeMode(LanguageTableModel::Name, QHeaderView::Stretch);
   view.setItemDelegateForColumn(LanguageTableModel::Done, new PercentBarDelegate(&view));
 }
 

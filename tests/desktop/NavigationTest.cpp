@@ -1,4 +1,5 @@
 #include <QClipboard>
+#include <QScrollBar>
 
 #include "desktop/DesktopFixture.h"
 #include "desktop/TestClasses.h"
@@ -81,6 +82,24 @@ class NavigationTest : public DesktopFixture {
     QCOMPARE(selectedKey(), QStringLiteral("Close"));
     press(Qt::Key_End, Qt::ControlModifier);
     QCOMPARE(selectedKey(), QStringLiteral("First line\nsecond line"));
+  }
+
+  void selectsTheLastAndTheFirstRowWithEndAndHome() {
+    openDemo();
+    strings().setFocus();
+    press(Qt::Key_End);
+    QCOMPARE(selectedKey(), QStringLiteral("First line\nsecond line"));
+    press(Qt::Key_Home);
+    QCOMPARE(selectedKey(), QStringLiteral("Open"));
+  }
+
+  void showsEveryColumnOfManyLanguages() {
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+      demo().write(QStringLiteral("x%1.lproj/Localizable.strings").arg(QLatin1Char(letter)), "");
+    }
+    openDemo();
+    QTRY_VERIFY(languages().verticalScrollBar()->maximum() > 0);
+    QCOMPARE(languages().horizontalScrollBar()->maximum(), 0);
   }
 
   void selectsTheFirstRowWithTheFirstArrow() {
