@@ -8,7 +8,7 @@ void LanguagesDict::set(LanguageCode code, std::string_view text) {
 }
 
 void LanguagesDict::setStored(LanguageCode code, StoredText text) {
-  if (code.number() >= m_slots.size()) m_slots.resize(code.number() + 1);
+  reserve(code);
   StoredText& slot = m_slots[code.number()];
   if (!slot) ++m_count;
   slot = text;

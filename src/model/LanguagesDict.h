@@ -31,7 +31,9 @@ class LanguagesDict {
   bool remove(LanguageCode code);
   std::size_t count() const { return m_count; }
   /// Makes room for languages up to `highest`, so that setting them one by one does not move the entries.
-  void reserve(LanguageCode highest) { m_slots.reserve(highest.number() + 1); }
+  void reserve(LanguageCode highest) {
+    if (highest.number() >= m_slots.size()) m_slots.resize(highest.number() + 1);
+  }
 
   /// Calls `visit(LanguageCode, std::string_view)` for every entry, in the order in which the codes were first met by
   /// the program.

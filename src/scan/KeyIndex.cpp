@@ -1,6 +1,8 @@
 #include "scan/KeyIndex.h"
 
+#include <algorithm>
 #include <functional>
+#include <utility>
 
 namespace glossmill {
 
@@ -10,48 +12,55 @@ std::uint32_t KeyIndex::hashOf(std::string_view key) {
 
 std::size_t KeyIndex::slotOf(std::string_view key, std::uint32_t hash) const {
   const std::size_t mask = m_slots.size() - 1;
-  std::size_t slot = hash & mask;
-  while (m_slots[slot] != kNone) {
-    const Key& other = m_keys[m_slots[slot]];
-    if (other.hash == hash && other.text == key) break;
-    slot = (slot + 1) & mask;
+  std::size_t at = hash & mask;
+  while (m_slots[at].number != kNone) {
+    if (m_slots[at].hash == hash && m_keys[m_slots[at].number] == key) break;
+    at = (at + 1) & mask;
   }
-  return slot;
+  return at;
 }
 
 std::optional<KeyIndex::Number> KeyIndex::find(std::string_view key) const {
   if (m_slots.empty()) return std::nullopt;
-  const Number number = m_slots[slotOf(key, hashOf(key))];
+  const Number number = m_slots[slotOf(key, hashOf(key))].number;
   return number == kNone ? std::nullopt : std::optional(number);
 }
 
 std::pair<KeyIndex::Number, bool> KeyIndex::add(std::string_view key) {
   if (m_keys.size() * 2 >= m_slots.size()) grow();
   const std::uint32_t hash = hashOf(key);
-  Number& slot = m_slots[slotOf(key, hash)];
-  if (slot != kNone) return {slot, false};
-  slot = static_cast<Number>(m_keys.size());
-  m_keys.push_back({m_texts.add(key).view(), hash});
-  return {slot, true};
+  Slot& slot = m_slots[slotOf(key, hash)];
+  if (slot.number != kNone) return {slot.number, false};
+  slot = {static_cast<Number>(m_keys.size()), hash};
+  m_keys.push_back(m_texts.add(key).view());
+  return {slot.number, true};
 }
 
 void KeyIndex::grow() {
-  m_slots.assign(m_slots.empty() ? 64 : m_slots.size() * 2, kNone);
+  const std::vector<Slot> old =
+      std::exchange(m_slots, std::vector<Slot>(std::max<std::size_t>(64, 2 * m_slots.size())));
   const std::size_t mask = m_slots.size() - 1;
-  for (Number number = 0; number < m_keys.size(); ++number) {
-    std::size_t slot = m_keys[number].hash & mask;
-    while (m_slots[slot] != kNone) slot = (slot + 1) & mask;
-    m_slots[slot] = number;
+  for (const Slot& slot : old) {
+    if (slot.number == kNone) continue;
+    std::size_t at = slot.hash & mask;
+    while (m_slots[at].number != kNone) at = (at + 1) & mask;
+    m_slots[at] = slot;
   }
 }
 
 std::optional<KeyIndex::Number> KeyReader::find(std::string_view key) {
   if (m_next < m_expected.size() && m_expected[m_next].text == key) return m_expected[m_next++].number;
-  const std::optional<KeyIndex::Number> number = m_index.find(key);
+  const std::optional<KeyIndex::Number> number = lookUp(key);
   if (!number) return std::nullopt;
   if (m_placeOf[*number] == kNoPlace) expect(*number, key);
   m_next = m_placeOf[*number] + 1;
+  m_nextNumber = *number + std::size_t{1};
   return number;
+}
+
+std::optional<KeyIndex::Number> KeyReader::lookUp(std::string_view key) const {
+  const auto next = static_cast<KeyIndex::Number>(m_nextNumber);
+  return m_nextNumber < m_index.size() && m_index.key(next) == key ? next : m_index.find(key);
 }
 
 void KeyReader::expect(KeyIndex::Number number, std::string_view key) {

@@ -16,15 +16,18 @@ class KeyIndex {
 
   std::size_t size() const { return m_keys.size(); }
   std::optional<Number> find(std::string_view key) const;
+  std::string_view key(Number number) const { return m_keys[number]; }
   /// The number of `key`, and whether it is new.
   std::pair<Number, bool> add(std::string_view key);
 
  private:
-  struct Key {
-    std::string_view text;
-    std::uint32_t hash;
-  };
   static constexpr Number kNone = ~Number{0};
+
+  /// The hash lies here, so that other keys on the way are passed without a look at their texts.
+  struct Slot {
+    Number number = kNone;
+    std::uint32_t hash = 0;
+  };
 
   static std::uint32_t hashOf(std::string_view key);
   /// The slot that holds the key, or the empty one where it belongs.
@@ -32,13 +35,13 @@ class KeyIndex {
   void grow();
 
   TextArena m_texts;
-  std::vector<Key> m_keys;
-  std::vector<Number> m_slots;  ///< a power of two of them, at most half full
+  std::vector<std::string_view> m_keys;
+  std::vector<Slot> m_slots;  ///< a power of two of them, at most half full
 };
 
 /// Looks up the keys of file after file. Files tend to hold the same keys in the same order, so the key that stood next
 /// in an earlier file is compared first, from a copy of the keys in the order of the files, which is read front to
-/// back.
+/// back. Where no earlier file helps, the key that stood next in the sources is.
 class KeyReader {
  public:
   explicit KeyReader(const KeyIndex& index) : m_index(index), m_placeOf(index.size(), kNoPlace) {}
@@ -54,6 +57,8 @@ class KeyReader {
   };
   static constexpr std::uint32_t kNoPlace = ~std::uint32_t{0};
 
+  /// Looks the key up, in the index or at the place that follows the one found last.
+  std::optional<KeyIndex::Number> lookUp(std::string_view key) const;
   void expect(KeyIndex::Number number, std::string_view key);
 
   const KeyIndex& m_index;
@@ -61,6 +66,7 @@ class KeyReader {
   std::vector<Expected> m_expected;      ///< keys in the order in which files first held them
   std::vector<std::uint32_t> m_placeOf;  ///< by number, in m_expected
   std::size_t m_next = 0;                ///< in m_expected
+  std::size_t m_nextNumber = 0;          ///< of the key behind the one found last
 };
 
 }  // namespace glossmill

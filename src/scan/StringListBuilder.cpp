@@ -36,9 +36,11 @@ void StringListBuilder::merge(KeyIndex::Number number, std::string_view comment)
 bool StringListBuilder::hasComment(KeyIndex::Number number, std::string_view comment) {
   const std::vector<std::string>& comments = m_records[number]->commentArray();
   if (comments.size() < kManyComments) return std::find(comments.begin(), comments.end(), comment) != comments.end();
-  auto& known = m_manyComments[number];
-  if (known.empty()) known.insert(comments.begin(), comments.end());
-  return !known.emplace(comment).second;
+  KeyIndex& known = m_manyComments[number];
+  if (known.size() == 0) {
+    for (const std::string& earlier : comments) known.add(earlier);
+  }
+  return !known.add(comment).second;
 }
 
 }  // namespace glossmill

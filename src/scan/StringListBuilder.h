@@ -3,7 +3,6 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 #include "model/LocalizeString.h"
@@ -33,7 +32,7 @@ class StringListBuilder {
   KeyIndex m_keys;
   std::shared_ptr<TextArena> m_arena = std::make_shared<TextArena>();
   /// For records with so many comments that looking through them would show.
-  std::unordered_map<KeyIndex::Number, std::unordered_set<std::string>> m_manyComments;
+  std::unordered_map<KeyIndex::Number, KeyIndex> m_manyComments;
 };
 
 }  // namespace glossmill
