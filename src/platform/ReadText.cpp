@@ -8,7 +8,7 @@ namespace glossmill {
 
 namespace {
 
-constexpr std::size_t kWindow = 128 * 1024;
+constexpr std::size_t kWindow = 32 * 1024;
 
 /// Fills the window unless the file ends before: the decoder wants a first piece that is not short.
 Result<std::size_t> readWindow(ByteReader& reader, std::span<char> window) {
