@@ -18,7 +18,8 @@ bool ProjectWindowController::saveLanguageFrom(StringsFileTexts& texts, Language
   if (m_host.files.kindOf(file) == EntryKind::Missing && !createStringsDirectory(language)) return false;
 
   const bool existed = m_host.files.kindOf(file) != EntryKind::Missing;
-  const Outcome written = m_host.files.writeText(file, texts.text(language.code()));
+  texts.start(language.code());
+  const Outcome written = m_host.files.writeTextPieces(file, [&texts] { return texts.nextPiece(); });
   if (!written) {
     runOkAlert(formatText(localized("Error saving Localizable.strings for language %@"), {language.description()}));
     systemLog(formatText("Error %@ writing file: %@", {written.error().sentence, file.text()}));

@@ -1,11 +1,17 @@
 #include "edit/StringsFileWriter.h"
 
+#include <algorithm>
+#include <array>
+#include <optional>
 #include <utility>
 
 namespace glossmill {
 
-StringsFileTexts::StringsFileTexts(StringArray records)
-    : m_records(std::move(records)), m_translations(m_records.size()) {
+namespace {
+constexpr std::size_t kPieceBytes = 64 * 1024;  // stays in the processor's cache until it is written
+}
+
+StringsFileTexts::StringsFileTexts(StringArray records) : m_records(std::move(records)) {
   m_headEnds.reserve(m_records.size());
   for (const std::shared_ptr<LocalizeString>& record : m_records) appendHead(*record);
 }
@@ -19,32 +25,42 @@ void StringsFileTexts::appendHead(const LocalizeString& record) {
   m_headEnds.push_back(m_heads.size());
 }
 
-const std::string& StringsFileTexts::text(LanguageCode language) {
-  findTranslations(language);
-  m_text = "\n";
-  std::size_t start = 0;
-  for (std::size_t place = 0; place < m_records.size(); ++place) {
-    const std::size_t end = m_headEnds[place];
-    if (m_translations[place]) {
-      m_text.append(m_heads, start, end - start);
-      m_text += *m_translations[place];
-      m_text += "\"\n\n";
-    }
-    start = end;
-  }
-  return m_text;
+void StringsFileTexts::start(LanguageCode language) {
+  m_language = language;
+  m_next = 0;
+  m_isStart = true;
 }
 
-/// The records lie all over the memory; looking for their translations and nothing else lets the processor fetch many
-/// of them at a time.
-void StringsFileTexts::findTranslations(LanguageCode language) {
-  for (std::size_t place = 0; place < m_records.size(); ++place) {
-    m_translations[place] = m_records[place]->languagesDict().find(language);
+std::string_view StringsFileTexts::nextPiece() {
+  m_piece = m_isStart ? "\n" : "";
+  m_isStart = false;
+  while (m_next < m_records.size() && m_piece.size() < kPieceBytes) appendRecords();
+  return m_piece;
+}
+
+/// The records lie all over the memory; looking for the translations of some and nothing else lets the processor fetch
+/// many of them at a time.
+void StringsFileTexts::appendRecords() {
+  std::array<std::optional<std::string_view>, 64> translations;
+  const std::size_t first = m_next;
+  const std::size_t count = std::min(translations.size(), m_records.size() - first);
+  for (std::size_t i = 0; i < count; ++i) translations[i] = m_records[first + i]->languagesDict().find(m_language);
+  for (std::size_t i = 0; i < count; ++i) {
+    if (!translations[i]) continue;
+    const std::size_t start = first + i == 0 ? 0 : m_headEnds[first + i - 1];
+    m_piece.append(m_heads, start, m_headEnds[first + i] - start);
+    m_piece += *translations[i];
+    m_piece += "\"\n\n";
   }
+  m_next += count;
 }
 
 std::string stringsFileText(const StringArray& records, LanguageCode language) {
-  return StringsFileTexts(records).text(language);
+  StringsFileTexts texts(records);
+  texts.start(language);
+  std::string text;
+  for (std::string_view piece = texts.nextPiece(); !piece.empty(); piece = texts.nextPiece()) text += piece;
+  return text;
 }
 
 }  // namespace glossmill

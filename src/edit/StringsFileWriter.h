@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,18 +16,22 @@ class StringsFileTexts {
   /// Comments and keys are taken over at once, translations when they are asked for.
   explicit StringsFileTexts(StringArray records);
 
-  /// Valid until the next call.
-  const std::string& text(LanguageCode language);
+  /// Begins the text of a language.
+  void start(LanguageCode language);
+  /// The next piece of it, cut between records; empty at the end. Valid until the next call.
+  std::string_view nextPiece();
 
  private:
   void appendHead(const LocalizeString& record);
-  void findTranslations(LanguageCode language);
+  void appendRecords();
 
   StringArray m_records;
   std::string m_heads;                  ///< what stands before the translation, the same in all languages
   std::vector<std::size_t> m_headEnds;  ///< places in m_heads, one for each record
-  std::vector<std::optional<std::string_view>> m_translations;
-  std::string m_text;
+  LanguageCode m_language;
+  std::size_t m_next = 0;  ///< the record that comes next
+  bool m_isStart = true;
+  std::string m_piece;
 };
 
 /// The text for a single language.

@@ -70,11 +70,13 @@ class TemporaryFile {
 
   bool isOpen() const { return static_cast<bool>(m_file); }
   bool take(const struct stat& former);
-  bool write(std::string_view bytes);
+  Outcome writeAll(const BytePieces& next);
   bool flushAndClose() { return fsync(m_file.number()) == 0 && m_file.close(); }
   bool renameTo(const FileUrl& target);
 
  private:
+  bool write(std::string_view bytes);
+
   FileUrl m_path;
   FileDescriptor m_file;
   bool m_exists = false;
@@ -101,6 +103,15 @@ bool TemporaryFile::write(std::string_view bytes) {
   return true;
 }
 
+Outcome TemporaryFile::writeAll(const BytePieces& next) {
+  while (true) {
+    const Result<std::string_view> piece = next();
+    if (!piece) return piece.error();
+    if (piece.value().empty()) return Done{};
+    if (!write(piece.value())) return systemError(errno);
+  }
+}
+
 bool TemporaryFile::renameTo(const FileUrl& target) {
   if (rename(m_path.path().c_str(), target.path().c_str()) != 0) return false;
   m_exists = false;
@@ -115,7 +126,7 @@ void flushDirectory(const FileUrl& directory) {
 
 }  // namespace
 
-Outcome writeAtomically(const FileUrl& file, std::string_view bytes) {
+Outcome writeAtomically(const FileUrl& file, const BytePieces& next) {
   const Result<FileUrl> target = followLinks(file);
   if (!target) return target.error();
   const Result<std::optional<struct stat>> former = formerFile(target.value());
@@ -124,7 +135,9 @@ Outcome writeAtomically(const FileUrl& file, std::string_view bytes) {
   TemporaryFile temporary(directory, former.value() ? 0600 : 0666);
   if (!temporary.isOpen()) return systemError(errno, "directory");
   if (former.value() && !temporary.take(*former.value())) return systemError(errno);
-  if (!temporary.write(bytes) || !temporary.flushAndClose()) return systemError(errno);
+  const Outcome written = temporary.writeAll(next);
+  if (!written) return written;
+  if (!temporary.flushAndClose()) return systemError(errno);
   if (!temporary.renameTo(target.value())) return systemError(errno);
   flushDirectory(directory);
   return Done{};

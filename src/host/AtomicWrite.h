@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 #include "platform/FileUrl.h"
@@ -7,9 +8,12 @@
 
 namespace glossmill {
 
-/// Puts `bytes` in the place of the file, whole or not at all: written to a temporary file beside it, flushed to the
-/// disk, renamed. Links are followed to the file that is really meant, which need not exist yet. Permissions and, where
-/// the system allows it, the owner of a former file are kept.
-Outcome writeAtomically(const FileUrl& file, std::string_view bytes);
+/// Gives what is to be written piece by piece, each valid until the next is asked for; the empty piece is the end.
+using BytePieces = std::function<Result<std::string_view>()>;
+
+/// Puts what `next` gives in the place of the file, whole or not at all: written to a temporary file beside it, flushed
+/// to the disk, renamed. Links are followed to the file that is really meant, which need not exist yet. Permissions
+/// and, where the system allows it, the owner of a former file are kept. An error of `next` is passed on.
+Outcome writeAtomically(const FileUrl& file, const BytePieces& next);
 
 }  // namespace glossmill

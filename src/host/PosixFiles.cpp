@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <utility>
 
 #include "host/AtomicWrite.h"
 #include "host/FileDescriptor.h"
@@ -117,8 +118,15 @@ Outcome PosixFiles::createDirectory(const FileUrl& directory, bool intermediate)
 }
 
 Outcome PosixFiles::writeText(const FileUrl& file, std::string_view text) {
-  if (!isValidUtf8(text)) return Error{"The text cannot be written as UTF-8."};
-  return writeAtomically(file, text);
+  return writeTextPieces(file, [text]() mutable { return std::exchange(text, {}); });
+}
+
+Outcome PosixFiles::writeTextPieces(const FileUrl& file, const TextPieces& next) {
+  return writeAtomically(file, [&next]() -> Result<std::string_view> {
+    const std::string_view piece = next();
+    if (!isValidUtf8(piece)) return Error{"The text cannot be written as UTF-8."};
+    return piece;
+  });
 }
 
 }  // namespace glossmill

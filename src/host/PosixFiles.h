@@ -14,6 +14,7 @@ class PosixFiles : public Files {
   Result<std::unique_ptr<ByteReader>> open(const FileUrl& file) override;
   Outcome createDirectory(const FileUrl& directory, bool intermediate) override;
   Outcome writeText(const FileUrl& file, std::string_view text) override;
+  Outcome writeTextPieces(const FileUrl& file, const TextPieces& next) override;
 };
 
 }  // namespace glossmill

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -48,6 +49,10 @@ class FileReading {
   virtual Result<std::unique_ptr<ByteReader>> open(const FileUrl& file) = 0;
 };
 
+/// Gives a long text piece by piece, each valid until the next is asked for, cut between characters; the empty piece is
+/// the end.
+using TextPieces = std::function<std::string_view()>;
+
 /// The whole disk. Called from the main thread.
 class Files : public FileReading {
  public:
@@ -57,6 +62,8 @@ class Files : public FileReading {
   /// target. Permissions are kept, a link is written through. After an error the former file is whole. Text that is not
   /// valid UTF-8 is an error.
   virtual Outcome writeText(const FileUrl& file, std::string_view text) = 0;
+  /// The same for a text that is made while it is written. Joins the pieces unless a disk can do better.
+  virtual Outcome writeTextPieces(const FileUrl& file, const TextPieces& next);
 };
 
 }  // namespace glossmill

@@ -39,6 +39,29 @@ TEST(StringsFileWriter, SpreadsSeveralCommentsOverTheLinesOfOneBlock) {
             "\n/* Menu\nButton */\n\"Open\" = \"Ouvrir\"\n\n");
 }
 
+TEST(StringsFileTexts, GivesALongTextInPiecesThatEndBehindARecord) {
+  StringArray records;
+  std::string expected = "\n";
+  for (int number = 0; number < 5000; ++number) {
+    const std::string key = "key " + std::to_string(number);
+    records.push_back(number % 7 == 0 ? record(key) : inFrench(key, "traduction"));
+    if (number % 7 != 0) expected += "/*  */\n\"" + key + "\" = \"traduction\"\n\n";
+  }
+  StringsFileTexts texts(records);
+  for (const LanguageCode language : {kFrench, kGerman, kFrench}) {
+    texts.start(language);
+    std::string joined;
+    std::size_t pieces = 0;
+    for (std::string_view piece = texts.nextPiece(); !piece.empty(); piece = texts.nextPiece(), ++pieces) {
+      EXPECT_EQ(piece.back(), '\n');
+      joined += piece;
+    }
+    EXPECT_EQ(joined, language == kFrench ? expected : "\n");
+    EXPECT_EQ(pieces, language == kFrench ? 3U : 1U);
+    EXPECT_EQ(texts.nextPiece(), "");
+  }
+}
+
 TEST(StringsFileWriter, LeavesOutRecordsWithoutAnEntryInTheLanguage) {
   EXPECT_EQ(stringsFileText({record("Open"), inFrench("Close", "Fermer"), record("Save")}, kFrench),
             "\n/*  */\n\"Close\" = \"Fermer\"\n\n");

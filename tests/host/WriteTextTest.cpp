@@ -51,6 +51,31 @@ class FileSizeLimit {
   void (*m_formerHandler)(int);
 };
 
+/// Gives these texts and then the end.
+TextPieces piecesOf(std::vector<std::string_view> texts) {
+  return [texts = std::move(texts), next = std::size_t{0}]() mutable {
+    return next < texts.size() ? texts[next++] : std::string_view();
+  };
+}
+
+TEST(WriteTextPieces, JoinsThePieces) {
+  const TemporaryDirectory directory;
+  EXPECT_TRUE(PosixFiles().writeTextPieces(directory.url("file"), piecesOf({"one, ", "two"})));
+  EXPECT_EQ(directory.bytesOf("file"), "one, two");
+  EXPECT_TRUE(PosixFiles().writeTextPieces(directory.url("empty"), piecesOf({})));
+  EXPECT_EQ(directory.bytesOf("empty"), "");
+}
+
+TEST(WriteTextPieces, LeavesTheFormerFileWhenALaterPieceIsNotUtf8) {
+  const TemporaryDirectory directory;
+  EXPECT_EQ(writingError(directory.url("file"), "former"), "");
+  const Outcome outcome = PosixFiles().writeTextPieces(directory.url("file"), piecesOf({"one, ", "\xED\xA0\x80"}));
+  ASSERT_FALSE(outcome);
+  EXPECT_EQ(outcome.error().sentence, "The text cannot be written as UTF-8.");
+  EXPECT_EQ(directory.bytesOf("file"), "former");
+  EXPECT_EQ(everythingIn(directory.path()), std::vector<std::string>{"file"});
+}
+
 TEST(WriteText, CreatesAFileWithTheTextAndNothingElse) {
   const TemporaryDirectory directory;
   EXPECT_EQ(writingError(directory.url("file"), "\n\"a\" = \"ä\"\n"), "");

@@ -9,7 +9,7 @@
 namespace glossmill {
 namespace {
 
-using Lines = std::vector<std::string>;
+using Names = std::vector<std::string>;
 
 /// The path of the package below /P, "none" without one.
 std::string packageIn(InMemoryFiles& files) {
@@ -17,7 +17,7 @@ std::string packageIn(InMemoryFiles& files) {
   return package ? package->path() : "none";
 }
 
-std::string packageAmong(const Lines& directories) {
+std::string packageAmong(const Names& directories) {
   InMemoryFiles files;
   for (const std::string& directory : directories) files.addDirectory("/P/" + directory);
   return packageIn(files);
@@ -89,7 +89,7 @@ TEST(PackageSearch, DoesNotLookFurtherThanThePackage) {
   files.addDirectory("/P/b/B.xcodeproj/inner");
   files.addDirectory("/P/c");
   EXPECT_EQ(packageIn(files), "/P/b/B.xcodeproj");
-  EXPECT_EQ(files.listed(), (Lines{"/P", "/P/a", "/P/b"}));
+  EXPECT_EQ(files.listed(), (Names{"/P", "/P/a", "/P/b"}));
 }
 
 TEST(PackageSearch, TakesAPackageThatIsALink) {
@@ -112,7 +112,7 @@ TEST(PackageSearch, DoesNotFollowALinkBackToADirectoryAroundIt) {
   files.addLink("/P/a/here", ".");
   files.addLink("/P/broken", "nowhere");
   EXPECT_EQ(packageIn(files), "none");
-  EXPECT_EQ(files.listed(), (Lines{"/P", "/P/a"}));
+  EXPECT_EQ(files.listed(), (Names{"/P", "/P/a"}));
 }
 
 TEST(PackageSearch, FindsNothingAfterACancel) {
@@ -130,7 +130,7 @@ TEST(PackageSearch, StopsAtTheNextEntryAfterACancel) {
   CancelFlag canceled;
   files.onList = [&canceled](const std::string& path) { canceled.set(path == "/P/a"); };
   EXPECT_EQ(findProjectPackage(files, FileUrl("/P"), canceled), std::nullopt);
-  EXPECT_EQ(files.listed(), (Lines{"/P", "/P/a"}));
+  EXPECT_EQ(files.listed(), (Names{"/P", "/P/a"}));
 }
 
 }  // namespace
