@@ -55,14 +55,17 @@ void SavingTrials::copyFiles() {
 void SavingTrials::run(int rounds) {
   Samples saving;
   Samples copying;
+  Samples copyingOver;
   save();  // the first one finds a disk whose free room nobody has used for long
   for (int round = 0; round < rounds; ++round) {
     saving.add(save());
     copying.add(copyAndFlush());
+    copyingOver.add(copyOverAndFlush());
   }
   checkFiles();
   report("saving every language", saving);
   report("cp and sync of the same bytes", copying);
+  report("cp and sync over former files", copyingOver);
 }
 
 double SavingTrials::save() {
@@ -77,6 +80,14 @@ double SavingTrials::copyAndFlush() const {
   sync();
   const Stopwatch time;
   bench::run({"cp", "-R", m_saved.string(), m_copied.string()});
+  sync();
+  return time.seconds();
+}
+
+double SavingTrials::copyOverAndFlush() const {
+  sync();
+  const Stopwatch time;
+  bench::run({"cp", "-R", "--remove-destination", (m_saved / ".").string(), m_copied.string()});
   sync();
   return time.seconds();
 }

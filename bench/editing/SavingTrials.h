@@ -18,7 +18,10 @@ class SavingTrials {
  private:
   void copyFiles();
   double save();
+  /// To a directory that does not exist yet.
   double copyAndFlush() const;
+  /// Over the files that are there, whose room on the disk is freed, as it is by saving.
+  double copyOverAndFlush() const;
   void checkFiles() const;
 
   ProjectWindowController& m_project;

@@ -5,7 +5,7 @@
 namespace glossmill {
 
 bool ProjectWindowController::saveLanguage(Language& language) {
-  StringsFileTexts texts(stringList());
+  StringsFileTexts texts(stringList(), {language.code()});
   return saveLanguageFrom(texts, language);
 }
 
@@ -43,7 +43,9 @@ bool ProjectWindowController::createStringsDirectory(const Language& language) {
 }
 
 bool ProjectWindowController::saveProject() {
-  StringsFileTexts texts(stringList());
+  std::vector<LanguageCode> languages;
+  for (const std::shared_ptr<Language>& language : *languagesList()) languages.push_back(language->code());
+  StringsFileTexts texts(stringList(), languages);
   bool allWritten = true;
   for (const std::shared_ptr<Language>& language : *languagesList()) {
     if (!saveLanguageFrom(texts, *language)) allWritten = false;

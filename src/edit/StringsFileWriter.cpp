@@ -1,9 +1,6 @@
 #include "edit/StringsFileWriter.h"
 
 #include <algorithm>
-#include <array>
-#include <optional>
-#include <utility>
 
 namespace glossmill {
 
@@ -11,9 +8,17 @@ namespace {
 constexpr std::size_t kPieceBytes = 64 * 1024;  // stays in the processor's cache until it is written
 }
 
-StringsFileTexts::StringsFileTexts(StringArray records) : m_records(std::move(records)) {
-  m_headEnds.reserve(m_records.size());
-  for (const std::shared_ptr<LocalizeString>& record : m_records) appendHead(*record);
+/// The records lie all over the memory, so each is visited once, and not once for every language.
+StringsFileTexts::StringsFileTexts(const StringArray& records, const std::vector<LanguageCode>& languages) {
+  for (const LanguageCode language : languages) {
+    m_columns.push_back({language, {}});
+    m_columns.back().translations.reserve(records.size());
+  }
+  m_headEnds.reserve(records.size());
+  for (const std::shared_ptr<LocalizeString>& record : records) {
+    appendHead(*record);
+    for (Column& column : m_columns) column.translations.push_back(record->languagesDict().stored(column.language));
+  }
 }
 
 void StringsFileTexts::appendHead(const LocalizeString& record) {
@@ -26,7 +31,8 @@ void StringsFileTexts::appendHead(const LocalizeString& record) {
 }
 
 void StringsFileTexts::start(LanguageCode language) {
-  m_language = language;
+  m_column = &*std::find_if(m_columns.begin(), m_columns.end(),
+                            [language](const Column& column) { return column.language == language; });
   m_next = 0;
   m_isStart = true;
 }
@@ -34,29 +40,21 @@ void StringsFileTexts::start(LanguageCode language) {
 std::string_view StringsFileTexts::nextPiece() {
   m_piece = m_isStart ? "\n" : "";
   m_isStart = false;
-  while (m_next < m_records.size() && m_piece.size() < kPieceBytes) appendRecords();
+  while (m_next < m_headEnds.size() && m_piece.size() < kPieceBytes) appendRecord(m_next++);
   return m_piece;
 }
 
-/// The records lie all over the memory; looking for the translations of some and nothing else lets the processor fetch
-/// many of them at a time.
-void StringsFileTexts::appendRecords() {
-  std::array<std::optional<std::string_view>, 64> translations;
-  const std::size_t first = m_next;
-  const std::size_t count = std::min(translations.size(), m_records.size() - first);
-  for (std::size_t i = 0; i < count; ++i) translations[i] = m_records[first + i]->languagesDict().find(m_language);
-  for (std::size_t i = 0; i < count; ++i) {
-    if (!translations[i]) continue;
-    const std::size_t start = first + i == 0 ? 0 : m_headEnds[first + i - 1];
-    m_piece.append(m_heads, start, m_headEnds[first + i] - start);
-    m_piece += *translations[i];
-    m_piece += "\"\n\n";
-  }
-  m_next += count;
+void StringsFileTexts::appendRecord(std::size_t place) {
+  const StoredText translation = m_column->translations[place];
+  if (!translation) return;
+  const std::size_t start = place == 0 ? 0 : m_headEnds[place - 1];
+  m_piece.append(m_heads, start, m_headEnds[place] - start);
+  m_piece += translation.view();
+  m_piece += "\"\n\n";
 }
 
 std::string stringsFileText(const StringArray& records, LanguageCode language) {
-  StringsFileTexts texts(records);
+  StringsFileTexts texts(records, {language});
   texts.start(language);
   std::string text;
   for (std::string_view piece = texts.nextPiece(); !piece.empty(); piece = texts.nextPiece()) text += piece;

@@ -13,22 +13,28 @@ namespace glossmill {
 /// stands as it is stored: nothing is escaped. No records give a single line feed.
 class StringsFileTexts {
  public:
-  /// Comments and keys are taken over at once, translations when they are asked for.
-  explicit StringsFileTexts(StringArray records);
+  /// Takes over what the texts of these languages need; the translations themselves stay where they are.
+  StringsFileTexts(const StringArray& records, const std::vector<LanguageCode>& languages);
 
-  /// Begins the text of a language.
+  /// Begins the text of a language, one of those given.
   void start(LanguageCode language);
   /// The next piece of it, cut between records; empty at the end. Valid until the next call.
   std::string_view nextPiece();
 
  private:
   void appendHead(const LocalizeString& record);
-  void appendRecords();
+  void appendRecord(std::size_t place);
 
-  StringArray m_records;
+  /// All translations into one language, in the order of the records.
+  struct Column {
+    LanguageCode language;
+    std::vector<StoredText> translations;
+  };
+
   std::string m_heads;                  ///< what stands before the translation, the same in all languages
   std::vector<std::size_t> m_headEnds;  ///< places in m_heads, one for each record
-  LanguageCode m_language;
+  std::vector<Column> m_columns;
+  const Column* m_column = nullptr;
   std::size_t m_next = 0;  ///< the record that comes next
   bool m_isStart = true;
   std::string m_piece;

@@ -24,6 +24,8 @@ class LanguagesDict {
     return m_slots[code.number()].view();
   }
   bool contains(LanguageCode code) const { return code.number() < m_slots.size() && m_slots[code.number()]; }
+  /// The entry itself, which outlives the dictionary as long as its arena does; no text when there is none.
+  StoredText stored(LanguageCode code) const { return contains(code) ? m_slots[code.number()] : StoredText(); }
   void set(LanguageCode code, std::string_view text);
   /// Keeps a text that already lies in the arena given at construction.
   void setStored(LanguageCode code, StoredText text);

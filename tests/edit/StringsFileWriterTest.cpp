@@ -47,7 +47,7 @@ TEST(StringsFileTexts, GivesALongTextInPiecesThatEndBehindARecord) {
     records.push_back(number % 7 == 0 ? record(key) : inFrench(key, "traduction"));
     if (number % 7 != 0) expected += "/*  */\n\"" + key + "\" = \"traduction\"\n\n";
   }
-  StringsFileTexts texts(records);
+  StringsFileTexts texts(records, {kGerman, kFrench});
   for (const LanguageCode language : {kFrench, kGerman, kFrench}) {
     texts.start(language);
     std::string joined;
