@@ -1,6 +1,7 @@
 #include "edit/StringsFileWriter.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace glossmill {
 
@@ -9,13 +10,14 @@ constexpr std::size_t kPieceBytes = 64 * 1024;  // stays in the processor's cach
 }
 
 /// The records lie all over the memory, so each is visited once, and not once for every language.
-StringsFileTexts::StringsFileTexts(const StringArray& records, const std::vector<LanguageCode>& languages) {
+StringsFileTexts::StringsFileTexts(StringArray records, const std::vector<LanguageCode>& languages)
+    : m_records(std::move(records)) {
   for (const LanguageCode language : languages) {
     m_columns.push_back({language, {}});
-    m_columns.back().translations.reserve(records.size());
+    m_columns.back().translations.reserve(m_records.size());
   }
-  m_headEnds.reserve(records.size());
-  for (const std::shared_ptr<LocalizeString>& record : records) {
+  m_headEnds.reserve(m_records.size());
+  for (const std::shared_ptr<LocalizeString>& record : m_records) {
     appendHead(*record);
     for (Column& column : m_columns) column.translations.push_back(record->languagesDict().stored(column.language));
   }

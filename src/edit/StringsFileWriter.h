@@ -14,7 +14,7 @@ namespace glossmill {
 class StringsFileTexts {
  public:
   /// Takes over what the texts of these languages need; the translations themselves stay where they are.
-  StringsFileTexts(const StringArray& records, const std::vector<LanguageCode>& languages);
+  StringsFileTexts(StringArray records, const std::vector<LanguageCode>& languages);
 
   /// Begins the text of a language, one of those given.
   void start(LanguageCode language);
@@ -31,6 +31,7 @@ class StringsFileTexts {
     std::vector<StoredText> translations;
   };
 
+  StringArray m_records;                ///< kept alive: a project may be closed behind a question that saving asks
   std::string m_heads;                  ///< what stands before the translation, the same in all languages
   std::vector<std::size_t> m_headEnds;  ///< places in m_heads, one for each record
   std::vector<Column> m_columns;

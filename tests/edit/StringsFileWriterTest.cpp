@@ -62,6 +62,16 @@ TEST(StringsFileTexts, GivesALongTextInPiecesThatEndBehindARecord) {
   }
 }
 
+TEST(StringsFileTexts, OutlivesTheRecordsOfAProjectThatWasClosed) {
+  StringArray records = {inFrench("Open", "Ouvrir un document qui existe depuis longtemps")};
+  StringsFileTexts texts(records, {kFrench});
+  const std::weak_ptr<LocalizeString> watched = records.front();
+  records.clear();
+  EXPECT_FALSE(watched.expired());
+  texts.start(kFrench);
+  EXPECT_EQ(texts.nextPiece(), "\n/*  */\n\"Open\" = \"Ouvrir un document qui existe depuis longtemps\"\n\n");
+}
+
 TEST(StringsFileWriter, LeavesOutRecordsWithoutAnEntryInTheLanguage) {
   EXPECT_EQ(stringsFileText({record("Open"), inFrench("Close", "Fermer"), record("Save")}, kFrench),
             "\n/*  */\n\"Close\" = \"Fermer\"\n\n");
