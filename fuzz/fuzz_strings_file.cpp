@@ -74,6 +74,7 @@ void parseText(std::string_view text) {
   const StringsFileFindings whole = parseStringsFile({text}, keys);
   require(whole == ReferenceStringsFileParser(text, keys).findings, "findings are those of the plain rules");
   require(parseStringsFile(cutInPieces(text), keys) == whole, "pieces give what the whole gives");
+  require(parseStringsFile({text}, keys, text) == whole, "a second file gives what the first gave");
 }
 
 void readFile(std::string_view bytes) {

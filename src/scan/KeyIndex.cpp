@@ -49,7 +49,7 @@ void KeyIndex::grow() {
 }
 
 std::optional<KeyIndex::Number> KeyReader::find(std::string_view key) {
-  if (m_next < m_expected.size() && m_expected[m_next].text == key) return m_expected[m_next++].number;
+  if (expectedKey() == key) return takeExpected();
   const std::optional<KeyIndex::Number> number = lookUp(key);
   if (!number) return std::nullopt;
   if (m_placeOf[*number] == kNoPlace) expect(*number, key);

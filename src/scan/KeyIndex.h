@@ -49,6 +49,12 @@ class KeyReader {
   /// The next file begins.
   void restart() { m_next = 0; }
   std::optional<KeyIndex::Number> find(std::string_view key);
+  /// The key that stood next in an earlier file, if one did.
+  std::optional<std::string_view> expectedKey() const {
+    return m_next < m_expected.size() ? std::optional(m_expected[m_next].text) : std::nullopt;
+  }
+  /// The same as finding the expected key, which there must be.
+  KeyIndex::Number takeExpected() { return m_expected[m_next++].number; }
 
  private:
   struct Expected {

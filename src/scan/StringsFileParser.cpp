@@ -4,6 +4,7 @@
 #include <span>
 #include <utility>
 
+#include "scan/PlainLines.h"
 #include "text/ByteSearch.h"
 
 namespace glossmill {
@@ -27,9 +28,51 @@ StringsFileParser::StringsFileParser(KeyReader& keys, TextArena& values, const C
 }
 
 void StringsFileParser::feed(std::string_view piece) {
+  while (!piece.empty()) {
+    if (isAtLineStart()) piece.remove_prefix(takePlainLines(piece));
+    if (!piece.empty()) feedLine(piece);
+  }
+}
+
+/// Outside strings and comments, and nothing is left of an unfinished line.
+bool StringsFileParser::isAtLineStart() const {
+  return m_remover.state() == CommentRemover::State::Code && m_lineStart == m_clean.text.size();
+}
+
+/// Takes the lines in front of the first that needs a closer look, from where they are; returns where that one begins.
+std::size_t StringsFileParser::takePlainLines(std::string_view text) {
+  std::size_t at = 0;
+  while (at < text.size()) {
+    if (text[at] == '\n') {
+      countLine();
+      ++at;
+    } else if (text[at] == '/') {
+      const std::size_t end = endOfPlainComment(text, at);
+      if (end == at) return at;
+      at = end;
+    } else {
+      const std::optional<PlainEntry> entry =
+          text[at] == '"' ? plainEntryAt(text, at, m_keys.expectedKey()) : std::nullopt;
+      if (!entry) return at;
+      if (countLine()) takePlainEntry(*entry);
+      at = entry->end;
+    }
+  }
+  return at;
+}
+
+void StringsFileParser::takePlainEntry(const PlainEntry& entry) {
+  const auto key = entry.keyIsExpected ? std::optional(m_keys.takeExpected()) : numberOf(entry.key);
+  if (key) m_content.entries.push_back({*key, m_values.add(entry.value)});
+}
+
+/// Takes the way through the comment remover, up to the next line feed.
+void StringsFileParser::feedLine(std::string_view& piece) {
+  const std::size_t length = std::min(findByte(piece, '\n', 0) + 1, piece.size());
   dropTakenLines();
-  m_remover.feed(piece, m_clean);
+  m_remover.feed(piece.substr(0, length), m_clean);
   takeLines();
+  piece.remove_prefix(length);
 }
 
 StringsFileContent StringsFileParser::finish() {
@@ -58,10 +101,15 @@ void StringsFileParser::dropTakenLines() {
   m_lineStart = 0;
 }
 
-void StringsFileParser::nextLine(const Line& line) {
+/// Another line begins; false when it is not to be taken any more.
+bool StringsFileParser::countLine() {
   ++m_content.lineCount;
   if (m_canceled.isSet()) m_content.canceled = true;
-  if (!m_content.canceled && !line.empty()) takeLine(line);
+  return !m_content.canceled;
+}
+
+void StringsFileParser::nextLine(const Line& line) {
+  if (countLine() && !line.empty()) takeLine(line);
 }
 
 void StringsFileParser::takeLine(const Line& line) {
@@ -70,13 +118,14 @@ void StringsFileParser::takeLine(const Line& line) {
     return;
   }
   if (line.quotes.size() == 1) return;  // a key that is not closed is dropped without a word
-  const std::string_view key = line.between(line.quotes[0], line.quotes[1]);
+  const std::optional<KeyIndex::Number> key = numberOf(line.between(line.quotes[0], line.quotes[1]));
+  if (key) takeValue(line, *key);
+}
+
+std::optional<KeyIndex::Number> StringsFileParser::numberOf(std::string_view key) {
   const std::optional<KeyIndex::Number> number = m_keys.find(key);
-  if (!number) {
-    report(StringsFileDiagnostic::Kind::NoMatch, key);
-    return;
-  }
-  takeValue(line, *number);
+  if (!number) report(StringsFileDiagnostic::Kind::NoMatch, key);
+  return number;
 }
 
 void StringsFileParser::takeValue(const Line& line, KeyIndex::Number key) {

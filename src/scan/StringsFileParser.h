@@ -12,6 +12,8 @@
 
 namespace glossmill {
 
+struct PlainEntry;
+
 /// One accepted entry: the number of its key and its raw value.
 struct StringsFileEntry {
   KeyIndex::Number key = 0;
@@ -46,10 +48,16 @@ class StringsFileParser {
  private:
   struct Line;
 
+  bool isAtLineStart() const;
+  std::size_t takePlainLines(std::string_view text);
+  void takePlainEntry(const PlainEntry& entry);
+  void feedLine(std::string_view& piece);
   void takeLines();
   void dropTakenLines();
+  bool countLine();
   void nextLine(const Line& line);
   void takeLine(const Line& line);
+  std::optional<KeyIndex::Number> numberOf(std::string_view key);
   void takeValue(const Line& line, KeyIndex::Number key);
   void reject(std::string_view text) { report(StringsFileDiagnostic::Kind::BadFormat, text); }
   void report(StringsFileDiagnostic::Kind kind, std::string_view text);

@@ -20,6 +20,10 @@ class ByteBlock {
   Mask equal(char byte) const {
     return maskOf(_mm_cmpeq_epi8(m_bytes, _mm_set1_epi8(byte)));
   }
+  Mask equalEither(char one, char other) const {
+    const __m128i ones = _mm_cmpeq_epi8(m_bytes, _mm_set1_epi8(one));
+    return maskOf(_mm_or_si128(ones, _mm_cmpeq_epi8(m_bytes, _mm_set1_epi8(other))));
+  }
   Mask equalLetter(char lowerCase) const {
     const __m128i lower = _mm_or_si128(m_bytes, _mm_set1_epi8(0x20));
     return maskOf(_mm_cmpeq_epi8(lower, _mm_set1_epi8(lowerCase)));
@@ -43,6 +47,9 @@ class ByteBlock {
 
   Mask equal(char byte) const {
     return maskWhere([byte](char other) { return other == byte; });
+  }
+  Mask equalEither(char one, char other) const {
+    return equal(one) | equal(other);
   }
   /// The bytes that are this ASCII letter in either case.
   Mask equalLetter(char lowerCase) const {

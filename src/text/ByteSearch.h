@@ -32,7 +32,7 @@ inline std::size_t findEither(std::string_view text, char one, char other, std::
   std::size_t at = from;
   for (; at + ByteBlock::kSize <= text.size(); at += ByteBlock::kSize) {
     const ByteBlock block(text.data() + at);
-    const ByteBlock::Mask hits = block.equal(one) | block.equal(other);
+    const ByteBlock::Mask hits = block.equalEither(one, other);
     if (hits != 0) return at + static_cast<std::size_t>(std::countr_zero(hits));
   }
   while (at < text.size() && text[at] != one && text[at] != other) ++at;

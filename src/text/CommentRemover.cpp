@@ -134,7 +134,7 @@ void PiecePass::putUpToMark() {
   for (; at + ByteBlock::kSize <= m_piece.size(); at += ByteBlock::kSize) {
     const ByteBlock block(m_piece.data() + at);
     std::memcpy(next, m_piece.data() + at, ByteBlock::kSize);
-    const ByteBlock::Mask hits = block.equal('"') | block.equal('\n');
+    const ByteBlock::Mask hits = block.equalEither('"', '\n');
     if (hits != 0) {
       const auto before = static_cast<std::size_t>(std::countr_zero(hits));
       m_next = next + before;

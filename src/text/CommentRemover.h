@@ -31,6 +31,7 @@ class CommentRemover {
 
   /// Appends what is left of `piece` to `clean`.
   void feed(std::string_view piece, CleanText& clean);
+  State state() const { return m_state; }
 
  private:
   State m_state = State::Code;

@@ -102,6 +102,19 @@ TEST(KeyReader, IsNotMisledByUnknownKeys) {
   EXPECT_EQ(reader.find("b"), Number{1});
 }
 
+TEST(KeyReader, ExpectsTheKeyThatStoodNextInAnEarlierFile) {
+  const KeyIndex index = indexOf({"a", "b"});
+  KeyReader reader(index);
+  EXPECT_EQ(reader.expectedKey(), std::nullopt);
+  reader.find("b");
+  reader.find("a");
+  EXPECT_EQ(reader.expectedKey(), std::nullopt);
+  reader.restart();
+  EXPECT_EQ(reader.expectedKey(), "b");
+  EXPECT_EQ(reader.takeExpected(), Number{1});
+  EXPECT_EQ(reader.expectedKey(), "a");
+}
+
 TEST(KeyReader, AgreesWithTheIndexOnRandomKeys) {
   std::vector<std::string> keys;
   for (int number = 0; number < 50; ++number) keys.push_back("k" + std::to_string(number));

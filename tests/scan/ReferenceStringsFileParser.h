@@ -44,7 +44,7 @@ class ReferenceStringsFileParser {
     if (close == std::string::npos) return;
     const std::string key = rest.substr(0, close);
     if (std::find(m_keys.begin(), m_keys.end(), key) == m_keys.end()) {
-      findings.diagnostics.push_back("no match: " + key);
+      report("no match: " + key);
       return;
     }
     addValue(key, rest.substr(close));
@@ -62,7 +62,11 @@ class ReferenceStringsFileParser {
     findings.entries.emplace_back(key, rest.substr(0, close));
   }
 
-  void bad(const std::string& rest) { findings.diagnostics.push_back("bad format: " + rest); }
+  void bad(const std::string& rest) { report("bad format: " + rest); }
+  void report(const std::string& what) {
+    findings.diagnostics.push_back(what);
+    findings.diagnosticLines.push_back(findings.lineCount);
+  }
 
   const std::vector<std::string>& m_keys;
 };

@@ -14,6 +14,7 @@ namespace glossmill {
 struct StringsFileFindings {
   std::vector<std::pair<std::string, std::string>> entries;  ///< key and value
   std::vector<std::string> diagnostics;                      ///< "bad format: …" and "no match: …"
+  std::vector<std::int64_t> diagnosticLines;                 ///< of the above
   std::int64_t lineCount = 0;
   bool operator==(const StringsFileFindings&) const = default;
 };
@@ -24,17 +25,24 @@ inline void PrintTo(const StringsFileFindings& findings, std::ostream* out) {
   for (const std::string& diagnostic : findings.diagnostics) *out << "\n" << diagnostic;
 }
 
-/// The parser's findings in a file that comes in these pieces, in a project with these keys.
+inline StringsFileContent parsePieces(const std::vector<std::string_view>& pieces, KeyReader& reader,
+                                      TextArena& values) {
+  const CancelFlag canceled;
+  StringsFileParser parser(reader, values, canceled);
+  for (const std::string_view piece : pieces) parser.feed(piece);
+  return parser.finish();
+}
+
+/// The parser's findings in a file that comes in these pieces, in a project with these keys, after it has read
+/// `before`.
 inline StringsFileFindings parseStringsFile(const std::vector<std::string_view>& pieces,
-                                            const std::vector<std::string>& keys) {
+                                            const std::vector<std::string>& keys, std::string_view before = {}) {
   KeyIndex index;
   for (const std::string& key : keys) index.add(key);
   KeyReader reader(index);
   TextArena values;
-  const CancelFlag canceled;
-  StringsFileParser parser(reader, values, canceled);
-  for (const std::string_view piece : pieces) parser.feed(piece);
-  const StringsFileContent content = parser.finish();
+  parsePieces({before}, reader, values);
+  const StringsFileContent content = parsePieces(pieces, reader, values);
 
   StringsFileFindings findings;
   for (const StringsFileEntry& entry : content.entries)
@@ -42,6 +50,7 @@ inline StringsFileFindings parseStringsFile(const std::vector<std::string_view>&
   for (const StringsFileDiagnostic& diagnostic : content.diagnostics) {
     const bool noMatch = diagnostic.kind == StringsFileDiagnostic::Kind::NoMatch;
     findings.diagnostics.push_back((noMatch ? "no match: " : "bad format: ") + diagnostic.text);
+    findings.diagnosticLines.push_back(diagnostic.line);
   }
   findings.lineCount = content.lineCount;
   return findings;

@@ -25,9 +25,10 @@ class RandomFile {
 
   /// Good lines with a few characters lost and doubled.
   std::string damagedFile() {
-    static const std::vector<std::string> lines = {"\"a\" = \"x\";\n",      "\"b\\\"\" = \"y\\\"\";\n", "/* c */\n",
-                                                   "\"a=b\" = \"//z\"; \n", "\"d\" = \"w\";\r\n",       "// e\n\n",
-                                                   "\"c/d\"=\"\";\n"};
+    static const std::vector<std::string> lines = {
+        "\"a\" = \"x\";\n",      "\"b\\\"\" = \"y\\\"\";\n", "/* c */\n",
+        "\"a=b\" = \"//z\"; \n", "\"d\" = \"w\";\r\n",       "// e\n\n",
+        "\"c/d\"=\"\";\n",       "\"a\"\t=\t\"v\";\n",       "/** f **/ */\n\n"};
     std::string text;
     for (std::size_t left = 1 + number(8); left > 0; --left) text += lines[number(lines.size())];
     for (std::size_t left = number(5); left > 0; --left) text.erase(number(text.size()), 1);
@@ -57,6 +58,8 @@ void expectTheSame(const std::string& text, RandomFile& random) {
   const StringsFileFindings expected = ReferenceStringsFileParser(text, kOddKeys).findings;
   EXPECT_EQ(parseStringsFile({text}, kOddKeys), expected);
   EXPECT_EQ(parseStringsFile(random.pieces(text), kOddKeys), expected);
+  EXPECT_EQ(parseStringsFile({text}, kOddKeys, text), expected);
+  EXPECT_EQ(parseStringsFile(random.pieces(text), kOddKeys, random.damagedFile()), expected);
 }
 
 TEST(StringsFileParser, AgreesWithThePlainRulesOnRandomTexts) {

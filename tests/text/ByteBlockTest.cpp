@@ -34,6 +34,15 @@ ByteBlock::Mask askAll(char filler, Ask ask) {
 
 constexpr ByteBlock::Mask kAll = 0xFFFF;
 
+TEST(ByteBlock, FindsEitherOfTwoBytesAtEveryPlace) {
+  const auto ask = [](const ByteBlock& block) { return block.equalEither('"', '\n'); };
+  expectOneBit('!', '"', ask);
+  expectOneBit('\x0B', '\n', ask);
+  EXPECT_EQ(askAll('!', ask), ByteBlock::Mask{0});
+  EXPECT_EQ(askAll('"', ask), kAll);
+  EXPECT_EQ(askAll('\n', ask), kAll);
+}
+
 TEST(ByteBlock, FindsAByteAtEveryPlace) {
   for (unsigned value = 0; value < 0x100; ++value) {
     const char byte = byteOf(value);
