@@ -6,6 +6,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <climits>
 #include <cstdint>
 #endif
 
@@ -16,7 +17,7 @@ namespace glossmill {
 namespace {
 
 constexpr int kStep = 16 * 1024 * 1024;
-constexpr int kReserve = 16 * kStep;  ///< of addresses, not of memory
+constexpr int kReserve = 64 * kStep;  ///< of addresses, not of memory; only what lies there comes in large pages
 
 /// Touching fresh memory page by page is a good part of a short scan. Where the system does not offer larger pages,
 /// nothing happens.
@@ -34,7 +35,7 @@ void askForHugePages(void* start, void* end) {
 void setAllocatorForScans() {
   mallopt(M_ARENA_MAX, 1);
   mallopt(M_MMAP_THRESHOLD, 2 * kStep);  // the most that the library takes
-  mallopt(M_TRIM_THRESHOLD, 4 * kReserve);
+  mallopt(M_TRIM_THRESHOLD, INT_MAX);
   mallopt(M_TOP_PAD, kReserve);
   void* const start = std::malloc(kStep);
   askForHugePages(start, sbrk(0));

@@ -26,14 +26,21 @@ std::optional<KeyIndex::Number> KeyIndex::find(std::string_view key) const {
   return number == kNone ? std::nullopt : std::optional(number);
 }
 
-std::pair<KeyIndex::Number, bool> KeyIndex::add(std::string_view key) {
+std::pair<KeyIndex::Number, bool> KeyIndex::add(std::string_view key, std::uint32_t hash) {
   if (m_keys.size() * 2 >= m_slots.size()) grow();
-  const std::uint32_t hash = hashOf(key);
   Slot& slot = m_slots[slotOf(key, hash)];
   if (slot.number != kNone) return {slot.number, false};
   slot = {static_cast<Number>(m_keys.size()), hash};
   m_keys.push_back(m_texts.add(key).view());
   return {slot.number, true};
+}
+
+void KeyIndex::prefetch(std::uint32_t hash) const {
+#if defined(__GNUC__)
+  if (!m_slots.empty()) __builtin_prefetch(&m_slots[hash & (m_slots.size() - 1)]);
+#else
+  static_cast<void>(hash);
+#endif
 }
 
 void KeyIndex::grow() {

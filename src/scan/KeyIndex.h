@@ -18,7 +18,13 @@ class KeyIndex {
   std::optional<Number> find(std::string_view key) const;
   std::string_view key(Number number) const { return m_keys[number]; }
   /// The number of `key`, and whether it is new.
-  std::pair<Number, bool> add(std::string_view key);
+  std::pair<Number, bool> add(std::string_view key) { return add(key, hashOf(key)); }
+  /// The same for who has asked for the hash before.
+  std::pair<Number, bool> add(std::string_view key, std::uint32_t hash);
+
+  static std::uint32_t hashOf(std::string_view key);
+  /// Brings the place of a key that will be looked for soon into the cache.
+  void prefetch(std::uint32_t hash) const;
 
  private:
   static constexpr Number kNone = ~Number{0};
@@ -29,7 +35,6 @@ class KeyIndex {
     std::uint32_t hash = 0;
   };
 
-  static std::uint32_t hashOf(std::string_view key);
   /// The slot that holds the key, or the empty one where it belongs.
   std::size_t slotOf(std::string_view key, std::uint32_t hash) const;
   void grow();

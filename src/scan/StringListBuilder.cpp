@@ -9,14 +9,26 @@ constexpr std::size_t kManyComments = 32;
 }
 
 void StringListBuilder::add(const std::vector<SourceString>& strings, const FileUrl& file) {
-  for (const SourceString& string : strings) {
-    const auto [number, isNew] = m_keys.add(string.name);
+  const std::vector<std::uint32_t> hashes = hashesOf(strings);
+  for (std::size_t i = 0; i < strings.size(); ++i) {
+    const auto [number, isNew] = m_keys.add(strings[i].name, hashes[i]);
     if (isNew) {
-      append(string, file);
+      append(strings[i], file);
     } else {
-      merge(number, string.comment);
+      merge(number, strings[i].comment);
     }
   }
+}
+
+/// The places of all the names are asked for at once, since each lies somewhere else in memory.
+std::vector<std::uint32_t> StringListBuilder::hashesOf(const std::vector<SourceString>& strings) const {
+  std::vector<std::uint32_t> hashes;
+  hashes.reserve(strings.size());
+  for (const SourceString& string : strings) {
+    hashes.push_back(KeyIndex::hashOf(string.name));
+    m_keys.prefetch(hashes.back());
+  }
+  return hashes;
 }
 
 void StringListBuilder::append(const SourceString& string, const FileUrl& file) {

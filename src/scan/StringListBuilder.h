@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -24,6 +25,7 @@ class StringListBuilder {
   TextArena& arena() { return *m_arena; }
 
  private:
+  std::vector<std::uint32_t> hashesOf(const std::vector<SourceString>& strings) const;
   void append(const SourceString& string, const FileUrl& file);
   void merge(KeyIndex::Number number, std::string_view comment);
   bool hasComment(KeyIndex::Number number, std::string_view comment);

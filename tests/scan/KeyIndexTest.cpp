@@ -71,6 +71,16 @@ TEST(KeyIndex, FindsEachOfManyKeys) {
   EXPECT_EQ(index.find("key 20000"), std::nullopt);
 }
 
+TEST(KeyIndex, TakesAHashThatWasAskedForBefore) {
+  KeyIndex index;
+  const std::uint32_t hash = KeyIndex::hashOf("a");
+  index.prefetch(hash);
+  EXPECT_EQ(index.add("a", hash), (std::pair<Number, bool>(0, true)));
+  index.prefetch(hash);
+  EXPECT_EQ(index.add("a", hash), (std::pair<Number, bool>(0, false)));
+  EXPECT_EQ(index.find("a"), Number{0});
+}
+
 TEST(KeyReader, FindsNothingInAnEmptyIndex) {
   const KeyIndex index;
   KeyReader reader(index);
