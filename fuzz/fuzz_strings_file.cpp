@@ -1,7 +1,7 @@
 #include "fuzz/FuzzSupport.h"
 #include "scan/ReferenceStringsFileParser.h"
 #include "scan/StringsFileFindings.h"
-#include "scan/Utf16Text.h"
+#include "support/Utf16Text.h"
 #include "text/TextDecoder.h"
 #include "text/Utf8.h"
 

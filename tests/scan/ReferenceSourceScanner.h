@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "scan/Utf16Text.h"
+#include "support/Utf16Text.h"
 
 namespace glossmill {
 
