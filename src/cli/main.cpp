@@ -1,5 +1,6 @@
 #include <CLI/CLI.hpp>
 #include <exception>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -90,6 +91,8 @@ int main(int argc, char** argv) {
   glossmill::Console console;
   try {
     return static_cast<int>(glossmill::run(argc, argv, console));
+  } catch (const std::bad_alloc&) {
+    console.error("there is not enough memory");
   } catch (const std::exception& problem) {
     console.error(problem.what());
   }

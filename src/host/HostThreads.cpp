@@ -1,6 +1,8 @@
 #include "host/HostThreads.h"
 
 #include <chrono>
+#include <exception>
+#include <system_error>
 #include <utility>
 
 namespace glossmill {
@@ -17,13 +19,24 @@ void HostThreads::performInBackground(std::function<void()> job) {
   joinEnded();
   const std::lock_guard lock(m_mutex);
   if (m_closed) return;
+  std::list<Job> started(1);
+  Job& entry = started.front();
   m_running.fetch_add(1, std::memory_order_acq_rel);
-  Job& started = m_jobs.emplace_back();
-  started.thread = std::thread([this, &started, work = std::move(job)] { run(work, started); });
+  try {
+    entry.thread = std::thread([this, &entry, work = std::move(job)] { run(work, entry); });
+  } catch (const std::system_error&) {
+    m_running.fetch_sub(1, std::memory_order_acq_rel);
+    throw;
+  }
+  m_jobs.splice(m_jobs.end(), started);
 }
 
 void HostThreads::run(const std::function<void()>& work, Job& job) {
-  work();
+  try {
+    work();
+  } catch (...) {
+    m_mailbox.performAndWait([problem = std::current_exception()] { std::rethrow_exception(problem); });
+  }
   job.ended.store(true, std::memory_order_release);
   m_running.fetch_sub(1, std::memory_order_acq_rel);
   m_mailbox.nudge();

@@ -11,7 +11,9 @@
 
 namespace glossmill {
 
-/// One std::thread per background job, and a mailbox to the thread that made this object: the main thread.
+/// One std::thread per background job, and a mailbox to the thread that made this object: the main thread. What a job
+/// throws, such as that there is no memory left, is thrown again on the main thread, where it drains the mailbox; a
+/// thread that cannot be started is a std::system_error at once.
 class HostThreads : public Threads {
  public:
   HostThreads() : m_mainThread(std::this_thread::get_id()) {}

@@ -43,12 +43,22 @@ void MainThreadMailbox::sleepUntilFinished(Item& item) {
 void MainThreadMailbox::drain(Duration maxTime) {
   const auto end = std::chrono::steady_clock::now() + maxTime;
   while (Item* item = takeNext()) {
-    item->work();
-    finish(*item, State::Done);
+    perform(*item);
     if (std::chrono::steady_clock::now() >= end) break;
     m_mainYield.until([this] { return waitingCount() != 0; });
   }
   rearm();
+}
+
+/// The poster waits also for work that throws.
+void MainThreadMailbox::perform(Item& item) {
+  try {
+    item.work();
+  } catch (...) {
+    finish(item, State::Done);
+    throw;
+  }
+  finish(item, State::Done);
 }
 
 MainThreadMailbox::Item* MainThreadMailbox::takeNext() {

@@ -33,7 +33,8 @@ class MainThreadMailbox {
 
   // The main thread's side. Work may call all of it again.
 
-  /// Does what waits, and what comes while it does, for about `maxTime` at most; one work is never cut short.
+  /// Does what waits, and what comes while it does, for about `maxTime` at most; one work is never cut short. What work
+  /// throws goes through, and the rest waits for the next call.
   void drain(Duration maxTime = kTurn);
   /// Sleeps until there is work, a nudge(), or `timeout` has passed, then drains.
   void waitAndDrain(Duration timeout);
@@ -62,6 +63,7 @@ class MainThreadMailbox {
   bool post(Item& item);
   void sleepUntilFinished(Item& item);
   Item* takeNext();
+  void perform(Item& item);
   void finish(Item& item, State state);
 
   std::mutex m_mutex;

@@ -3,6 +3,7 @@
 #include <atomic>
 #include <chrono>
 #include <memory>
+#include <new>
 #include <semaphore>
 #include <string>
 #include <thread>
@@ -60,6 +61,39 @@ TEST(HostThreads, AHopOfTheFirstPhaseMayStartTheSecond) {
   });
   threads.runUntilIdle();
   EXPECT_EQ(log, "one hand-off two");
+  EXPECT_EQ(threads.jobsRunning(), 0);
+}
+
+TEST(HostThreads, WhatAJobThrowsIsThrownOnTheMainThread) {
+  HostThreads threads;
+  threads.performInBackground([] { throw std::bad_alloc(); });
+  EXPECT_THROW(threads.runUntilIdle(), std::bad_alloc);
+  threads.runUntilIdle();
+  EXPECT_EQ(threads.jobsRunning(), 0);
+}
+
+TEST(HostThreads, AJobGoesOnWhenItsHopHasThrown) {
+  HostThreads threads;
+  bool wentOn = false;
+  threads.performInBackground([&] {
+    threads.performOnMainThreadAndWait([] { throw std::bad_alloc(); });
+    wentOn = true;
+  });
+  EXPECT_THROW(threads.runUntilIdle(), std::bad_alloc);
+  threads.runUntilIdle();
+  EXPECT_TRUE(wentOn);
+}
+
+TEST(HostThreads, NobodyHearsOfWhatAJobThrowsAfterJoiningAll) {
+  HostThreads threads;
+  std::binary_semaphore mayThrow(0);
+  threads.performInBackground([&mayThrow] {
+    mayThrow.acquire();
+    throw std::bad_alloc();
+  });
+  threads.mailbox().close();
+  mayThrow.release();
+  threads.joinAll();
   EXPECT_EQ(threads.jobsRunning(), 0);
 }
 
