@@ -17,7 +17,10 @@ namespace glossmill {
 namespace {
 
 constexpr int kStep = 16 * 1024 * 1024;
-constexpr int kReserve = 64 * kStep;  ///< of addresses, not of memory; only what lies there comes in large pages
+/// Of addresses, not of memory; only what lies there comes in large pages. A system that does not give that much is
+/// asked for less.
+constexpr int kLargestReserve = 127 * kStep;
+constexpr int kSmallestReserve = 16 * kStep;
 
 /// Touching fresh memory page by page is a good part of a short scan. Where the system does not offer larger pages,
 /// nothing happens.
@@ -26,8 +29,18 @@ void askForHugePages(void* start, void* end) {
   const std::uintptr_t first = (reinterpret_cast<std::uintptr_t>(start) + kHugePage - 1) / kHugePage * kHugePage;
   const std::uintptr_t last = reinterpret_cast<std::uintptr_t>(end) / kHugePage * kHugePage;
   // Another allocator than the C library's, such as that of a sanitizer, places memory elsewhere.
-  if (first >= last || last - first > 2 * std::uintptr_t{kReserve}) return;
+  if (first >= last || last - first > 2 * std::uintptr_t{kLargestReserve}) return;
   madvise(reinterpret_cast<void*>(first), last - first, MADV_HUGEPAGE);
+}
+
+/// False when the system does not give it.
+bool takeReserve(int bytes) {
+  mallopt(M_TOP_PAD, bytes);
+  void* const start = std::malloc(kStep);
+  if (!start) return false;
+  askForHugePages(start, sbrk(0));
+  std::free(start);
+  return true;
 }
 
 }  // namespace
@@ -36,10 +49,7 @@ void setAllocatorForScans() {
   mallopt(M_ARENA_MAX, 1);
   mallopt(M_MMAP_THRESHOLD, 2 * kStep);  // the most that the library takes
   mallopt(M_TRIM_THRESHOLD, INT_MAX);
-  mallopt(M_TOP_PAD, kReserve);
-  void* const start = std::malloc(kStep);
-  askForHugePages(start, sbrk(0));
-  std::free(start);
+  for (int reserve = kLargestReserve; reserve >= kSmallestReserve && !takeReserve(reserve);) reserve /= 4;
   mallopt(M_TOP_PAD, kStep);
 }
 
