@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <thread>
@@ -7,8 +8,9 @@
 namespace glossmill {
 
 /// Yields the processor for a moment before its owner goes to sleep, because waking a sleeping thread costs far more
-/// than a short hop takes. On a busy machine a yield is what costs: after a long one yielding pauses for a while. Any
-/// number of threads.
+/// than a short hop takes. On a busy machine a yield is what costs: after a long one yielding pauses for a while. One
+/// alone says little, since the thread that is waited for may have had the same processor; the pause grows when more
+/// follow soon. Any number of threads.
 class BriefYield {
  public:
   /// Yields until `ready` says true or it is time to sleep; gives the last answer of `ready`.
@@ -20,7 +22,7 @@ class BriefYield {
     for (Clock::time_point before = start; before - start < kPatience;) {
       std::this_thread::yield();
       const Clock::time_point after = Clock::now();
-      if (after - before > kLongYield) pauseUntil(after + kPause);
+      if (after - before > kLongYield) pause(after);
       if (ready()) return true;
       if (after - before > kLongYield) return false;
       before = after;
@@ -32,13 +34,21 @@ class BriefYield {
   using Clock = std::chrono::steady_clock;
   static constexpr std::chrono::microseconds kPatience{50};
   static constexpr std::chrono::microseconds kLongYield{100};
-  static constexpr std::chrono::milliseconds kPause{10};
+  static constexpr Clock::duration kFirstPause = std::chrono::milliseconds(1);
+  static constexpr Clock::duration kLongestPause = std::chrono::milliseconds(16);
+  static constexpr Clock::duration kSoon = std::chrono::milliseconds(20);
 
-  void pauseUntil(Clock::time_point end) {
-    m_pausedUntil.store(end.time_since_epoch().count(), std::memory_order_relaxed);
+  void pause(Clock::time_point now) {
+    const Clock::rep time = now.time_since_epoch().count();
+    const bool again = time - m_pausedUntil.load(std::memory_order_relaxed) < kSoon.count();
+    const Clock::rep longer = std::min(2 * m_pause.load(std::memory_order_relaxed), kLongestPause.count());
+    const Clock::rep pause = again ? longer : kFirstPause.count();
+    m_pause.store(pause, std::memory_order_relaxed);
+    m_pausedUntil.store(time + pause, std::memory_order_relaxed);
   }
 
   std::atomic<Clock::rep> m_pausedUntil{0};
+  std::atomic<Clock::rep> m_pause{kFirstPause.count()};
 };
 
 }  // namespace glossmill
