@@ -79,7 +79,6 @@ void MainThreadMailbox::finish(Item& item, State state) {
 }
 
 void MainThreadMailbox::waitAndDrain(Duration timeout) {
-  m_mainYield.until([this] { return waitingCount() != 0; });
   {
     std::unique_lock lock(m_mutex);
     m_arrived.wait_for(lock, timeout, [this] { return m_nudged || !m_queue.empty(); });
