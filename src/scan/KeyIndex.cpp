@@ -14,7 +14,7 @@ std::size_t KeyIndex::slotOf(std::string_view key, std::uint32_t hash) const {
   const std::size_t mask = m_slots.size() - 1;
   std::size_t at = hash & mask;
   while (m_slots[at].number != kNone) {
-    if (m_slots[at].hash == hash && m_keys[m_slots[at].number] == key) break;
+    if (m_slots[at].hash == hash && m_slots[at].text.view() == key) break;
     at = (at + 1) & mask;
   }
   return at;
@@ -30,8 +30,8 @@ std::pair<KeyIndex::Number, bool> KeyIndex::add(std::string_view key, std::uint3
   if (m_keys.size() * 2 >= m_slots.size()) grow();
   Slot& slot = m_slots[slotOf(key, hash)];
   if (slot.number != kNone) return {slot.number, false};
-  slot = {static_cast<Number>(m_keys.size()), hash};
-  m_keys.push_back(m_texts.add(key).view());
+  slot = {m_texts.add(key), static_cast<Number>(m_keys.size()), hash};
+  m_keys.push_back(slot.text);
   return {slot.number, true};
 }
 

@@ -16,7 +16,7 @@ class KeyIndex {
 
   std::size_t size() const { return m_keys.size(); }
   std::optional<Number> find(std::string_view key) const;
-  std::string_view key(Number number) const { return m_keys[number]; }
+  std::string_view key(Number number) const { return m_keys[number].view(); }
   /// The number of `key`, and whether it is new.
   std::pair<Number, bool> add(std::string_view key) { return add(key, hashOf(key)); }
   /// The same for who has asked for the hash before.
@@ -29,8 +29,10 @@ class KeyIndex {
  private:
   static constexpr Number kNone = ~Number{0};
 
-  /// The hash lies here, so that other keys on the way are passed without a look at their texts.
+  /// The hash lies here, so that other keys on the way are passed without a look at their texts. Of a million keys each
+  /// look at another place is one at memory that is far away.
   struct Slot {
+    StoredText text;
     Number number = kNone;
     std::uint32_t hash = 0;
   };
@@ -40,7 +42,7 @@ class KeyIndex {
   void grow();
 
   TextArena m_texts;
-  std::vector<std::string_view> m_keys;
+  std::vector<StoredText> m_keys;
   std::vector<Slot> m_slots;  ///< a power of two of them, at most half full
 };
 
