@@ -32,11 +32,17 @@ def measured(command, accepted=(0,)):
     return Run(seconds, usage.ru_maxrss * unit)
 
 
-def interleaved(commands, rounds):
-    """The runs of each named command; one after the other in every round, so that a slow moment meets them all."""
+def interleaved(commands, rounds, warmed=False):
+    """The runs of each named command; one after the other in every round, so that a slow moment meets them all.
+
+    Warmed: each is run twice and the second counts. What a process leaves free a virtual machine may give back to its
+    host within seconds, and getting a GiB again takes a second, which would be counted against the largest command.
+    """
     runs = {name: [] for name in commands}
     for _ in range(rounds):
         for name, command in commands.items():
+            if warmed:
+                measured(command)
             runs[name].append(measured(command))
     return runs
 
