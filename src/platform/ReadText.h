@@ -11,7 +11,7 @@ namespace glossmill {
 /// The whole file as UTF-8 text, its encoding detected. The error names the reason, not the file.
 Result<std::string> readText(FileReading& files, const FileUrl& file);
 
-/// The same in pieces of about 128 KB through one window, so that large files stay in the processor's cache. When it
+/// The same in pieces of about 32 KB through one window, so that large files stay in the processor's cache. When it
 /// ends in an error, what `sink` got before is to be thrown away.
 Outcome readTextPieces(FileReading& files, const FileUrl& file, const std::function<void(std::string_view)>& sink);
 

@@ -31,6 +31,7 @@ class CommentRemover {
 
   /// Appends what is left of `piece` to `clean`.
   void feed(std::string_view piece, CleanText& clean);
+  /// Where the next piece begins.
   State state() const { return m_state; }
 
  private:
