@@ -90,7 +90,7 @@ class ImportingTest : public DesktopFixture {
     openDemo();
     select(languages(), QStringLiteral("de"));
     project().languageFromBaseLanguage(project().selectedLanguage());
-    QVERIFY(waitBriefly([this] { return project().changed(); }));
+    QVERIFY(waitBriefly([this] { return project().stringList()[5]->languagesDict().contains(LanguageCode("de")); }));
     click(inSheet<QPushButton>("cancelButton"));
     waitForJob();
     QVERIFY(!isSheetUp());
