@@ -3,9 +3,9 @@
 namespace glossmill {
 
 /// Tells the C library to take memory in large steps, and from one heap for all threads: a scan allocates a lot on one
-/// thread and frees next to nothing until the end. The first steps are reserved at once, in large pages where the
-/// system has them, and are kept by the process. Call it first in main(). Does nothing with libraries that have no such
-/// settings.
+/// thread and frees next to nothing until the end. Up to 2 GiB of addresses are reserved at once, in large pages where
+/// the system has them; memory that was used there stays with the process. Call it first in main(). Does nothing with
+/// libraries that have no such settings.
 void setAllocatorForScans();
 
 }  // namespace glossmill

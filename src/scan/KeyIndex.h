@@ -29,8 +29,8 @@ class KeyIndex {
  private:
   static constexpr Number kNone = ~Number{0};
 
-  /// The hash lies here, so that other keys on the way are passed without a look at their texts. Of a million keys each
-  /// look at another place is one at memory that is far away.
+  /// The hash lies here, so that other keys on the way are passed without a look at their texts; the text is pointed to
+  /// from here, since with a million keys every place that is looked at is another wait for memory.
   struct Slot {
     StoredText text;
     Number number = kNone;

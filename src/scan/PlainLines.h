@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -20,7 +21,7 @@ inline bool isPlainClosingQuote(std::string_view text, std::size_t quote) {
   return quote < text.size() && text[quote] == '"' && text[quote - 1] != '\\';
 }
 
-/// Where the text between quotes ends that begins at `start`.
+/// Where the text between quotes that begins at `start` can end at the earliest: the next quote or line feed.
 inline std::size_t plainLiteralEnd(std::string_view text, std::size_t start) {
   return findEither(text, '"', '\n', start);
 }
