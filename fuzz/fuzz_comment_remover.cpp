@@ -1,6 +1,6 @@
 #include "fuzz/FuzzSupport.h"
-#include "text/CommentRemover.h"
-#include "text/ReferenceCommentRemover.h"
+#include "strings/CommentRemover.h"
+#include "strings/ReferenceCommentRemover.h"
 #include "text/TextDecoder.h"
 #include "text/Utf8.h"
 

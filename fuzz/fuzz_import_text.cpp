@@ -1,6 +1,6 @@
 #include "exchange/ImportText.h"
 #include "fuzz/FuzzSupport.h"
-#include "text/ReferenceCommentRemover.h"
+#include "strings/ReferenceCommentRemover.h"
 #include "text/TextDecoder.h"
 #include "text/Utf8.h"
 

@@ -1,6 +1,6 @@
 #include "fuzz/FuzzSupport.h"
-#include "scan/ReferenceStringsFileParser.h"
-#include "scan/StringsFileFindings.h"
+#include "strings/ReferenceStringsFileParser.h"
+#include "strings/StringsFileFindings.h"
 #include "support/Utf16Text.h"
 #include "text/TextDecoder.h"
 #include "text/Utf8.h"

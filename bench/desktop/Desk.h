@@ -9,7 +9,7 @@
 #include <string>
 
 #include "desktop/DesktopProgram.h"
-#include "desktop/TranslationEditor.h"
+#include "desktop/windows/TranslationEditor.h"
 
 namespace glossmill::bench {
 

@@ -1,6 +1,6 @@
 #include "desktop/SearchTrials.h"
 
-#include "desktop/QtText.h"
+#include "desktop/host/QtText.h"
 #include "text/FoldCase.h"
 #include "timing/Findings.h"
 

@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "scan/ProjectWindowController.h"
+#include "project/ProjectWindowController.h"
 #include "timing/Samples.h"
 
 namespace glossmill::bench {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "edit/StringsFileWriter.h"
+#include "strings/StringsFileWriter.h"
 #include "timing/Findings.h"
 
 extern char** environ;

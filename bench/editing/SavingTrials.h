@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "scan/ProjectWindowController.h"
+#include "project/ProjectWindowController.h"
 
 namespace glossmill::bench {
 

@@ -7,7 +7,7 @@
 
 #include "app/LogWindowController.h"
 #include "platform/Host.h"
-#include "scan/ProjectWindowController.h"
+#include "project/ProjectWindowController.h"
 
 namespace glossmill {
 

@@ -3,8 +3,8 @@
 #include <QLibraryInfo>
 #include <QLocale>
 
-#include "desktop/Icons.h"
-#include "desktop/OwnTranslator.h"
+#include "desktop/host/OwnTranslator.h"
+#include "desktop/look/Icons.h"
 
 /// The resources lie in a static library, whose parts are left out unless somebody names them.
 static void initializeResources() {

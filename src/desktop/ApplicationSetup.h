@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "desktop/OwnTexts.h"
+#include "desktop/host/OwnTexts.h"
 
 namespace glossmill {
 

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "desktop/HelpWindows.h"
+#include "desktop/windows/HelpWindows.h"
 
 namespace glossmill {
 

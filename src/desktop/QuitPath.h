@@ -4,7 +4,7 @@
 #include <QObject>
 
 #include "app/AppDelegate.h"
-#include "desktop/WidgetPanels.h"
+#include "desktop/host/WidgetPanels.h"
 #include "host/HostThreads.h"
 
 class QSessionManager;

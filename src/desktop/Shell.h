@@ -2,10 +2,10 @@
 
 #include <QPointer>
 
-#include "desktop/CommandActions.h"
-#include "desktop/InsideSheets.h"
-#include "desktop/RecentMenu.h"
-#include "desktop/WidgetPanels.h"
+#include "desktop/host/InsideSheets.h"
+#include "desktop/host/RecentMenu.h"
+#include "desktop/host/WidgetPanels.h"
+#include "desktop/windows/CommandActions.h"
 #include "platform/Bundle.h"
 #include "platform/NotificationCenter.h"
 

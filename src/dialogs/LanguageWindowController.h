@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "dialogs/LanguageDialogDelegates.h"
+#include "model/ArrayController.h"
 #include "model/Language.h"
-#include "model/LanguageDialogDelegates.h"
-#include "platform/ArrayController.h"
 #include "platform/Host.h"
 
 namespace glossmill {

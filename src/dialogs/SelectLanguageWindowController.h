@@ -2,10 +2,10 @@
 
 #include <memory>
 
+#include "dialogs/LanguageDialogDelegates.h"
+#include "model/ArrayController.h"
 #include "model/IsoTable.h"
 #include "model/Language.h"
-#include "model/LanguageDialogDelegates.h"
-#include "platform/ArrayController.h"
 #include "platform/Host.h"
 
 namespace glossmill {

@@ -1,6 +1,6 @@
 #include "exchange/ImportText.h"
 
-#include "text/CommentRemover.h"
+#include "strings/CommentRemover.h"
 #include "text/Split.h"
 
 namespace glossmill {

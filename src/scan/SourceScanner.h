@@ -4,15 +4,10 @@
 #include <string_view>
 #include <vector>
 
+#include "model/SourceString.h"
 #include "platform/CancelFlag.h"
 
 namespace glossmill {
-
-/// Key and comment of one NSLocalizedString call, raw, as views into the source text.
-struct SourceString {
-  std::string_view name;
-  std::string_view comment;
-};
 
 /// What one source file holds, in the order of its calls.
 struct SourceScan {

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "model/LocalizeString.h"
-#include "scan/StringsFileParser.h"
+#include "strings/StringsFileParser.h"
 
 namespace glossmill {
 

@@ -14,9 +14,9 @@
 
 #include "desktop/DemoProject.h"
 #include "desktop/DesktopProgram.h"
-#include "desktop/OwnTranslator.h"
-#include "desktop/QtText.h"
-#include "desktop/TranslationEditor.h"
+#include "desktop/host/OwnTranslator.h"
+#include "desktop/host/QtText.h"
+#include "desktop/windows/TranslationEditor.h"
 
 class QFileDialog;
 

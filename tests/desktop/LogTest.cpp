@@ -1,8 +1,8 @@
 #include <QClipboard>
 
 #include "desktop/DesktopFixture.h"
-#include "desktop/LogTextEdit.h"
 #include "desktop/TestClasses.h"
+#include "desktop/windows/LogTextEdit.h"
 
 namespace glossmill {
 

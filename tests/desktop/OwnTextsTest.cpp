@@ -5,9 +5,9 @@
 #include <QXmlStreamReader>
 
 #include "app/Commands.h"
-#include "desktop/OwnTexts.h"
-#include "desktop/QtText.h"
 #include "desktop/TestClasses.h"
+#include "desktop/host/OwnTexts.h"
+#include "desktop/host/QtText.h"
 
 namespace glossmill {
 

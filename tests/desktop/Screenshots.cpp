@@ -12,8 +12,8 @@
 
 #include "desktop/ApplicationSetup.h"
 #include "desktop/DesktopProgram.h"
-#include "desktop/QtText.h"
 #include "desktop/StillStyle.h"
+#include "desktop/host/QtText.h"
 
 namespace glossmill {
 

@@ -3,8 +3,8 @@
 #include <QToolBar>
 
 #include "desktop/DesktopFixture.h"
-#include "desktop/SheetPanel.h"
 #include "desktop/TestClasses.h"
+#include "desktop/sheets/SheetPanel.h"
 
 namespace glossmill {
 

@@ -3,9 +3,9 @@
 #include <QTableView>
 #include <QTest>
 
-#include "desktop/QtText.h"
-#include "desktop/RecordTable.h"
 #include "desktop/TestClasses.h"
+#include "desktop/host/QtText.h"
+#include "desktop/tables/RecordTable.h"
 
 namespace glossmill {
 

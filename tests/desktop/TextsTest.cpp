@@ -1,15 +1,15 @@
 #include <QTest>
 
 #include "app/Commands.h"
-#include "desktop/CellText.h"
 #include "desktop/CommandLine.h"
-#include "desktop/EditorText.h"
-#include "desktop/Icons.h"
-#include "desktop/LanguageDirection.h"
-#include "desktop/QtText.h"
-#include "desktop/ReadableColor.h"
-#include "desktop/SvgPath.h"
 #include "desktop/TestClasses.h"
+#include "desktop/host/QtText.h"
+#include "desktop/look/Icons.h"
+#include "desktop/look/LanguageDirection.h"
+#include "desktop/look/ReadableColor.h"
+#include "desktop/look/SvgPath.h"
+#include "desktop/tables/CellText.h"
+#include "desktop/windows/EditorText.h"
 
 namespace glossmill {
 

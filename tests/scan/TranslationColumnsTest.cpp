@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "scan/StringListBuilder.h"
+#include "model/StringListBuilder.h"
 #include "scan/TranslationColumns.h"
 #include "support/LanguageCodes.h"
 

@@ -1,0 +1,16 @@
+#include "desktop/host/StderrSystemLog.h"
+
+#include <cstdio>
+#include <string>
+
+namespace glossmill {
+
+/// One call, so that lines of several threads do not mix.
+void StderrSystemLog::write(std::string_view message) {
+  std::string line = "glossmill: ";
+  line += message;
+  line += '\n';
+  std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+}  // namespace glossmill

@@ -1,0 +1,93 @@
+#include "desktop/host/WidgetPanels.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "desktop/host/QtText.h"
+
+namespace glossmill {
+
+namespace {
+
+/// "Text files (*.txt *.rtf)".
+QString nameFilter(const std::vector<std::string>& fileTypes, const QString& label) {
+  QStringList patterns;
+  for (const std::string& type : fileTypes) patterns.append(QStringLiteral("*.") + toQt(type));
+  return QStringLiteral("%1 (%2)").arg(label, patterns.join(QLatin1Char(' ')));
+}
+
+void prepareForDirectory(QFileDialog& panel, const OpenPanelRequest& request) {
+  panel.setFileMode(QFileDialog::Directory);
+  panel.setOption(QFileDialog::ShowDirsOnly, !request.canChooseFiles);
+  panel.setOption(QFileDialog::ReadOnly, !request.canCreateDirectories);
+}
+
+QPushButton* addButton(QMessageBox& box, const std::string& title, QMessageBox::ButtonRole role) {
+  return title.empty() ? nullptr : box.addButton(toQt(title), role);
+}
+
+}  // namespace
+
+std::optional<FileUrl> WidgetPanels::runOpenPanel(const OpenPanelRequest& request) {
+  if (request.canChooseDirectories && m_presetDirectory) return std::exchange(m_presetDirectory, std::nullopt);
+  QFileDialog panel(m_parent, toQt(request.title), m_lastDirectory);
+  if (request.canChooseDirectories) {
+    prepareForDirectory(panel, request);
+  } else {
+    panel.setFileMode(QFileDialog::ExistingFile);
+    panel.setNameFilter(nameFilter(request.fileTypes, toQt(m_bundle.localizedString("Text files"))));
+  }
+  if (!request.prompt.empty()) panel.setLabelText(QFileDialog::Accept, toQt(request.prompt));
+  if (!request.directory.empty()) panel.setDirectory(toQt(request.directory.path()));
+  m_filePanel = &panel;
+  m_mailbox.rearm();
+  if (panel.exec() != QDialog::Accepted) return std::nullopt;
+  return request.canChooseDirectories ? FileUrl(fromQt(panel.selectedFiles().value(0))) : chosenFile(panel);
+}
+
+std::optional<FileUrl> WidgetPanels::chosenFile(const QFileDialog& panel) {
+  const QString file = panel.selectedFiles().value(0);
+  if (file.isEmpty()) return std::nullopt;
+  m_lastDirectory = panel.directory().absolutePath();
+  return FileUrl(fromQt(file));
+}
+
+void WidgetPanels::beginSavePanel(const SavePanelRequest& request, std::function<void(std::optional<FileUrl>)> done) {
+  auto* panel = new QFileDialog(m_parent, toQt(m_bundle.localizedString("Export")), m_lastDirectory);
+  panel->setAttribute(Qt::WA_DeleteOnClose);
+  panel->setAcceptMode(QFileDialog::AcceptSave);
+  panel->selectFile(toQt(request.proposedName));
+  m_filePanel = panel;
+  QObject::connect(panel, &QDialog::finished, panel, [this, panel, done = std::move(done)](int result) {
+    m_filePanel = nullptr;
+    done(result == QDialog::Accepted ? chosenFile(*panel) : std::nullopt);
+  });
+  panel->open();
+}
+
+AlertAnswer WidgetPanels::runAlert(const AlertRequest& request) {
+  QMessageBox box(m_parent);
+  box.setWindowModality(Qt::ApplicationModal);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(toQt(request.message));
+  box.setInformativeText(toQt(request.informativeText));
+  box.setIconPixmap(QApplication::windowIcon().pixmap(QSize(48, 48), box.devicePixelRatioF()));
+  box.setDefaultButton(addButton(box, request.defaultButton, QMessageBox::AcceptRole));
+  const QPushButton* alternate = addButton(box, request.alternateButton, QMessageBox::DestructiveRole);
+  QPushButton* other = addButton(box, request.otherButton, QMessageBox::RejectRole);
+  if (other) box.setEscapeButton(other);
+  ++m_alertsUp;
+  m_mailbox.rearm();
+  box.exec();
+  --m_alertsUp;
+  if (other && box.clickedButton() == other) return AlertAnswer::Other;
+  return alternate && box.clickedButton() == alternate ? AlertAnswer::Alternate : AlertAnswer::Default;
+}
+
+void WidgetPanels::cancelFilePanel() {
+  if (m_filePanel) m_filePanel->reject();
+}
+
+}  // namespace glossmill

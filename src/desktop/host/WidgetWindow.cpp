@@ -1,0 +1,57 @@
+#include "desktop/host/WidgetWindow.h"
+
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QMetaObject>
+
+#include "desktop/host/QtText.h"
+
+namespace glossmill {
+
+namespace {
+
+void restoreFocus(QWidget& window, QWidget* before) {
+  if (window.focusWidget() && window.focusWidget()->hasFocus()) return;
+  if (before && before->isEnabled() && before->isVisible()) before->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace
+
+void WidgetWindow::setTitle(std::string_view title) {
+  QString text = toQt(title);
+  text.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+  m_window.setWindowTitle(text + QLatin1String("[*]"));
+}
+
+void WidgetWindow::setDocumentEdited(bool edited) {
+  m_window.setWindowModified(edited);
+  if (editedChanged) editedChanged();
+}
+
+void WidgetWindow::show() {
+  m_window.show();
+  makeKeyAndOrderFront();
+}
+
+void WidgetWindow::makeKeyAndOrderFront() {
+  if (m_window.isMinimized()) m_window.showNormal();
+  m_window.show();
+  m_window.raise();
+  m_window.activateWindow();
+}
+
+void WidgetWindow::setOrderedIndex(int index) {
+  if (index == 0) m_window.raise();
+}
+
+void WidgetWindow::clearFirstResponder() {
+  QGuiApplication::inputMethod()->commit();
+  QWidget* const focused = m_window.focusWidget();
+  if (!focused) return;
+  focused->clearFocus();
+  QMetaObject::invokeMethod(
+      &m_window, [&window = m_window, before = QPointer<QWidget>(focused)] { restoreFocus(window, before); },
+      Qt::QueuedConnection);
+}
+
+}  // namespace glossmill

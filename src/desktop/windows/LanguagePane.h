@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QLabel>
+
+#include "desktop/tables/LanguageTableModel.h"
+#include "desktop/tables/RecordTable.h"
+
+namespace glossmill {
+
+/// The language table of the project window with its count. The widgets outlive it.
+class LanguagePane {
+ public:
+  LanguagePane(QTableView& view, QLabel& count, ProjectWindowController& project, const Bundle& bundle);
+
+  RecordTable& table() { return m_table; }
+  void languagesChanged(ArrayChange change);
+  void redraw() { m_table.redraw(); }
+
+ private:
+  void showCount();
+
+  QLabel& m_count;
+  ProjectWindowController& m_project;
+  const Bundle& m_bundle;
+  LanguageTableModel m_model;
+  RecordTable m_table;
+};
+
+/// Widths and the bar of a table of languages.
+void setUpLanguageColumns(QTableView& view);
+
+}  // namespace glossmill

@@ -1,0 +1,118 @@
+#include "desktop/windows/ProjectWindowInterface.h"
+
+#include <QShortcut>
+
+#include "desktop/QuitPath.h"
+#include "desktop/look/Icons.h"
+#include "desktop/windows/DirectoryDrop.h"
+#include "desktop/windows/MainMenu.h"
+#include "desktop/windows/MenuBarFocus.h"
+#include "desktop/windows/WindowMemory.h"
+
+namespace glossmill {
+
+ProjectWindowInterface::ProjectWindowInterface(ProjectWindowController& project, Shell& shell)
+    : m_project(project),
+      m_shell(shell),
+      m_widgets(m_mainWindow),
+      m_window(m_mainWindow, *m_widgets.translationTextView),
+      m_strings(
+          {*m_widgets.stringTableView, *m_widgets.stringCount, *m_widgets.stringFilterPopUp, *m_widgets.searchField},
+          project, shell.bundle),
+      m_languages(*m_widgets.languageTableView, *m_widgets.languageCount, project, shell.bundle),
+      m_details({*m_widgets.keyText, *m_widgets.commentText, *m_widgets.editorLabel, *m_widgets.translationTextView},
+                project, shell.bundle),
+      m_toolBar(*m_widgets.toolBar, shell.actions, shell.delegate, shell.bundle) {
+  m_widgets.mainSplitter->setSizes({500, 210});
+  m_widgets.tableSplitter->setSizes({850, 330});
+  m_widgets.detailSplitter->setSizes({460, 720});
+  m_widgets.mainSplitter->setStretchFactor(0, 1);
+  m_widgets.tableSplitter->setStretchFactor(0, 1);
+  keepClearOfSplitters();
+  restoreLayout(m_mainWindow);
+  m_widgets.stringTableView->setFocus();
+  setUpCommands();
+  setUpSearch();
+  observeProject();
+}
+
+/// The arranged rows went away before this, so nothing of the window may look for them any more.
+ProjectWindowInterface::~ProjectWindowInterface() {
+  saveLayout(m_mainWindow);
+  m_shell.notifications.removeObserver(this);
+  m_shell.sheets.changed = nullptr;
+  m_shell.actions.validated = nullptr;
+}
+
+ProjectWindowOutlets ProjectWindowInterface::outlets() {
+  return {&m_window, &m_strings.table(), &m_languages.table(), m_widgets.translationTextView, &m_strings.filterPopUp()};
+}
+
+/// From right to left a splitter places its parts one pixel too far to the right and cuts their edge off.
+void ProjectWindowInterface::keepClearOfSplitters() {
+  if (!m_mainWindow.isRightToLeft()) return;
+  for (QWidget* pane : {m_widgets.stringPane, m_widgets.languagePane, m_widgets.stringDetails, m_widgets.editorPane}) {
+    pane->layout()->setContentsMargins(0, 0, 1, 0);
+  }
+}
+
+void ProjectWindowInterface::setUpCommands() {
+  fillMenuBar(*m_widgets.menubar, m_shell.actions, m_shell.recentMenu.menu(), m_shell.bundle);
+  new MenuBarFocus(*m_widgets.menubar);
+  m_shell.sheets.setWindow(m_mainWindow);
+  m_shell.sheets.changed = [this] { sheetsChanged(); };
+  m_shell.panels.setParentWindow(&m_mainWindow);
+  m_shell.actions.setHandler(CommandId::Find, [this] { m_strings.focusSearch(); });
+  m_shell.actions.validated = [this] { m_toolBar.validate(); };
+  m_mainWindow.closeRequested = [this] { m_shell.quitPath.request(); };
+  m_window.editedChanged = [this] { m_shell.actions.validateSoon(); };
+  new DirectoryDrop(
+      m_mainWindow, [this] { return !m_shell.sheets.isUp(); },
+      [this](const FileUrl& directory) {
+        m_shell.panels.presetDirectory(directory);
+        m_shell.delegate.open();
+        m_shell.panels.presetDirectory(std::nullopt);
+      });
+}
+
+void ProjectWindowInterface::setUpSearch() {
+  QLineEdit& field = *m_widgets.searchField;
+  field.addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+  auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &field, nullptr, nullptr, Qt::WidgetShortcut);
+  QObject::connect(escape, &QShortcut::activated, &field, [this] { m_strings.leaveSearch(); });
+  QObject::connect(&field, &QLineEdit::returnPressed, &field, [this] { m_window.focusMainField(); });
+}
+
+void ProjectWindowInterface::observeProject() {
+  m_project.stringController().addObserver([this](ArrayChange change) { stringsChanged(change); });
+  m_project.languageController().addObserver([this](ArrayChange change) { languagesChanged(change); });
+  m_shell.notifications.addObserver(this, kTranslationChangedNotification,
+                                    [this](const void*) { m_languages.redraw(); });
+  QObject::connect(m_widgets.translationTextView, &TranslationEditor::translationEdited, &m_mainWindow,
+                   [this] { m_strings.translationEdited(); });
+}
+
+void ProjectWindowInterface::stringsChanged(ArrayChange change) {
+  m_strings.stringsChanged(change);
+  if (change == ArrayChange::Content) m_languages.redraw();
+  m_details.stringSelected();
+  m_shell.actions.validateSoon();
+}
+
+void ProjectWindowInterface::languagesChanged(ArrayChange change) {
+  m_languages.languagesChanged(change);
+  m_project.languageSelectionDidChange();
+  m_strings.languageSelected();
+  m_details.languageSelected();
+  m_shell.actions.validateSoon();
+}
+
+void ProjectWindowInterface::sheetsChanged() {
+  m_shell.actions.setCovered(m_shell.sheets.isUp());
+  if (m_shell.sheets.isUp()) return;
+  m_strings.table().settle();
+  m_languages.table().settle();
+  if (!m_mainWindow.focusWidget()) m_widgets.stringTableView->setFocus();
+}
+
+}  // namespace glossmill

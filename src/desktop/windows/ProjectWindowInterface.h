@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QObject>
+
+#include "desktop/Shell.h"
+#include "desktop/host/WidgetWindow.h"
+#include "desktop/windows/DetailPane.h"
+#include "desktop/windows/LanguagePane.h"
+#include "desktop/windows/ProjectToolBar.h"
+#include "desktop/windows/ProjectWindow.h"
+#include "desktop/windows/StringPane.h"
+#include "platform/InterfaceFiles.h"
+#include "ui_ProjectWindowController.h"
+
+namespace glossmill {
+
+/// The loaded project window: its widgets, and who tells which of its parts about what.
+class ProjectWindowInterface : public LoadedInterface {
+ public:
+  ProjectWindowInterface(ProjectWindowController& project, Shell& shell);
+  ~ProjectWindowInterface() override;
+
+  ProjectWindowOutlets outlets();
+
+ private:
+  /// The widgets of the interface file.
+  struct Widgets : Ui::ProjectWindowController {
+    explicit Widgets(QMainWindow& window) { setupUi(&window); }
+  };
+
+  void keepClearOfSplitters();
+  void observeProject();
+  void setUpCommands();
+  void setUpSearch();
+  void stringsChanged(ArrayChange change);
+  void languagesChanged(ArrayChange change);
+  void sheetsChanged();
+
+  ProjectWindowController& m_project;
+  Shell& m_shell;
+  ProjectWindow m_mainWindow;
+  Widgets m_widgets;
+  WidgetWindow m_window;
+  StringPane m_strings;
+  LanguagePane m_languages;
+  DetailPane m_details;
+  ProjectToolBar m_toolBar;
+};
+
+}  // namespace glossmill

@@ -1,0 +1,82 @@
+#include "desktop/windows/StringPane.h"
+
+#include <QHeaderView>
+
+#include "desktop/host/QtText.h"
+#include "desktop/tables/ListKeys.h"
+#include "text/Format.h"
+
+namespace glossmill {
+
+namespace {
+
+constexpr int kColumnWidths[] = {245, 225, 126, 88, 50, 80};
+
+void setUpColumns(QHeaderView& header) {
+  for (int column = 0; column < header.count(); ++column) header.resizeSection(column, kColumnWidths[column]);
+  header.setStretchLastSection(true);
+}
+
+}  // namespace
+
+StringPane::StringPane(const StringPaneWidgets& widgets, ProjectWindowController& project, const Bundle& bundle)
+    : m_widgets(widgets),
+      m_project(project),
+      m_bundle(bundle),
+      m_model(project, bundle),
+      m_table(widgets.table, m_model, std::make_unique<ControllerRows<LocalizeString>>(project.stringController()),
+              [&project] { return project.longJobRunning(); }),
+      m_filter(widgets.filter),
+      m_search(project) {
+  setUpColumns(*widgets.table.horizontalHeader());
+  new ListKeys(widgets.search, widgets.table);
+  QObject::connect(&widgets.filter, &QComboBox::activated, &m_table, [this] { m_project.changeStringFilter(); });
+  QObject::connect(&widgets.search, &QLineEdit::textChanged, &m_table,
+                   [this](const QString& text) { m_search.search(fromQt(text)); });
+  showCount();
+}
+
+void StringPane::stringsChanged(ArrayChange change) {
+  if (change == ArrayChange::Content) {
+    m_search.stringsChanged();
+    if (m_project.stringList().empty()) m_widgets.search.clear();
+  }
+  m_table.change(change);
+  if (change != ArrayChange::Selection) showCount();
+}
+
+void StringPane::languageSelected() {
+  m_search.languageChanged();
+  m_table.redraw();
+}
+
+void StringPane::translationEdited() {
+  m_search.translationEdited();
+  m_table.redrawSelected();
+}
+
+/// "12 of 140 strings" while a search narrows the table, "140 strings" otherwise.
+void StringPane::showCount() {
+  const auto number = [](std::size_t count) { return ArrayCountToLabelTextTransformer::transformedValue(count); };
+  const std::size_t shown = m_project.stringController().arrangedCount();
+  const std::size_t all = m_project.stringList().size();
+  const std::string text =
+      shown == all ? formatText(m_bundle.localizedString("Strings: %@"), {number(all)})
+                   : formatText(m_bundle.localizedString("Strings: %@ of %@"), {number(shown), number(all)});
+  m_widgets.count.setText(toQt(text));
+}
+
+void StringPane::focusSearch() {
+  m_widgets.search.setFocus(Qt::ShortcutFocusReason);
+  m_widgets.search.selectAll();
+}
+
+void StringPane::leaveSearch() {
+  if (m_widgets.search.text().isEmpty()) {
+    m_widgets.table.setFocus(Qt::ShortcutFocusReason);
+  } else {
+    m_widgets.search.clear();
+  }
+}
+
+}  // namespace glossmill

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+
+#include "app/StringSearch.h"
+#include "desktop/host/WidgetControls.h"
+#include "desktop/tables/RecordTable.h"
+#include "desktop/tables/StringTableModel.h"
+
+namespace glossmill {
+
+/// The widgets of the string table; they outlive the pane.
+struct StringPaneWidgets {
+  QTableView& table;
+  QLabel& count;
+  QComboBox& filter;
+  QLineEdit& search;
+};
+
+/// The string table with its filter, its search field and its count.
+class StringPane {
+ public:
+  StringPane(const StringPaneWidgets& widgets, ProjectWindowController& project, const Bundle& bundle);
+
+  RecordTable& table() { return m_table; }
+  PopUpButton& filterPopUp() { return m_filter; }
+  void stringsChanged(ArrayChange change);
+  void languageSelected();
+  void translationEdited();
+  void focusSearch();
+  /// Escape in the search field: empties it, or leaves it when it is empty.
+  void leaveSearch();
+
+ private:
+  void showCount();
+
+  StringPaneWidgets m_widgets;
+  ProjectWindowController& m_project;
+  const Bundle& m_bundle;
+  StringTableModel m_model;
+  RecordTable m_table;
+  WidgetPopUpButton m_filter;
+  StringSearch m_search;
+};
+
+}  // namespace glossmill

@@ -1,0 +1,64 @@
+#include "project/ProjectWindowController.h"
+
+#include "text/Format.h"
+
+namespace glossmill {
+
+ProjectWindowController::ProjectWindowController(const Host& host, ApplicationServices& application)
+    : m_host(host), m_application(application), m_statusTexts(host.bundle) {
+  m_stringController.addObserver([this](ArrayChange change) {
+    if (change == ArrayChange::Content) m_counts.invalidate();
+  });
+}
+
+ProjectWindowController::~ProjectWindowController() {
+  m_host.notifications.removeObserver(this);
+}
+
+void ProjectWindowController::showWindow() {
+  if (!m_window.loaded) {
+    m_window = m_host.interfaces.loadProjectWindow(*this);
+    windowDidLoad();
+  }
+  m_window.outlets.window->show();
+}
+
+void ProjectWindowController::windowDidLoad() {
+  m_host.notifications.addObserver(this, kTranslationChangedNotification,
+                                   [this](const void*) { stringChangedNotification(); });
+  loadIsoTable();
+}
+
+void ProjectWindowController::loadIsoTable() {
+  m_iso639Dict = IsoTable();
+  const Result<std::string> bytes = m_host.bundle.resource("ISO-639-2", "csv");
+  const Result<IsoTable> table = bytes ? IsoTable::fromCsv(bytes.value()) : Result<IsoTable>(bytes.error());
+  if (table) {
+    m_iso639Dict = table.value();
+    return;
+  }
+  systemLog(formatText("Error reading ISO file: %@", {table.error().sentence}));
+  logText(localized("Error reading ISO file from bundle"));
+}
+
+void ProjectWindowController::clearProject() {
+  m_application.clearLog();
+  m_filteredStringList.clear();
+  m_stringController.removeAllObjects();
+  m_fileList.clear();
+  // The array itself stays with the choosers that were given it; the project gets an empty one.
+  m_languageController.setContent(std::make_shared<LanguageArray>());
+  setChanged(false);
+  m_opened = false;
+}
+
+void ProjectWindowController::logText(std::string_view text) {
+  m_application.logText(text);
+}
+
+void ProjectWindowController::setChanged(bool changed) {
+  m_changed = changed;
+  if (m_window.loaded) m_window.outlets.window->setDocumentEdited(changed);
+}
+
+}  // namespace glossmill

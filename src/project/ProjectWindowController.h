@@ -1,0 +1,254 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "dialogs/LanguageDialogDelegates.h"
+#include "model/ArrayController.h"
+#include "model/IsoTable.h"
+#include "model/Language.h"
+#include "model/LocalizeString.h"
+#include "model/ProjectContext.h"
+#include "model/ScanResult.h"
+#include "model/StatusTexts.h"
+#include "model/TranslationCounts.h"
+#include "platform/CancelFlag.h"
+#include "platform/Host.h"
+#include "scan/TreeWalk.h"
+
+namespace glossmill {
+
+class KeyReader;
+class StringsFileTexts;
+class TranslationColumns;
+struct StringsFileContent;
+struct StringsFileDiagnostic;
+
+/// Owns the open project for its whole life and offers its operations: the rules are in modules, this class asks the
+/// host, calls one module, adopts the result and tells the window. Main thread, but for the operations marked
+/// "background".
+class ProjectWindowController : public ProjectContext,
+                                public LanguageWindowControllerDelegate,
+                                public SelectLanguageWindowControllerDelegate,
+                                private TreeWalkListener {
+ public:
+  using StringController = ArrayController<LocalizeString>;
+  using LanguageController = ArrayController<Language>;
+
+  /// `host` and `application` outlive the controller.
+  ProjectWindowController(const Host& host, ApplicationServices& application);
+  ~ProjectWindowController() override;
+  ProjectWindowController(const ProjectWindowController&) = delete;
+  ProjectWindowController& operator=(const ProjectWindowController&) = delete;
+
+  // ---- State: ProjectWindowController.cpp ----
+
+  /// Loads the window on first use and brings it to the front.
+  void showWindow();
+  /// Empties the project and the log. What the last scan read of the project file stays, so that a later scan whose
+  /// project file cannot be read tests membership against it.
+  void clearProject();
+  /// Any thread.
+  void logText(std::string_view text);
+
+  bool changed() const { return m_changed; }
+  void setChanged(bool changed);
+  bool opened() const { return m_opened; }
+  const FileUrl& projectDirectory() const { return m_projectDirectory; }
+  /// The package that the last scan took; nothing when it found none.
+  const std::optional<FileUrl>& projectPackage() const { return m_projectPackage; }
+  const std::optional<std::string>& projectFileData() const { return m_projectFileData; }
+  const std::vector<FileUrl>& fileList() const { return m_fileList; }
+  const StringArray& stringList() const { return *m_stringController.content(); }
+  const StringArray& filteredStringList() const { return m_filteredStringList; }
+  /// Shared: a chooser keeps the array that it was given.
+  const std::shared_ptr<LanguageArray>& languagesList() const { return m_languageController.content(); }
+  const IsoTable& iso639Dict() const { return m_iso639Dict; }
+  const FileUrl& actualParseFileName() const { return m_actualParseFileName; }
+  const std::shared_ptr<Language>& actualLanguage() const { return m_walkState.actualLanguage; }
+  std::int64_t actualDirectoryDepth() const { return m_walkState.actualDirectoryDepth; }
+  StringController& stringController() { return m_stringController; }
+  LanguageController& languageController() { return m_languageController; }
+  const StatusTexts& statusTexts() const { return m_statusTexts; }
+  /// Whether the long-time sheet was begun and not yet closed.
+  bool longJobRunning() const { return m_longJobRunning; }
+
+  // ---- Opening and the long-job pattern: ProjectWindowControllerOpening.cpp ----
+
+  void openProjectButton() { openProject(FileUrl()); }
+  /// Closes the open project, asks for a directory, with the panel at `start` unless it is empty, and starts the scan.
+  /// True when a scan was started.
+  bool openProject(const FileUrl& start);
+  bool parseProject();
+  /// The sheet's cancel button.
+  void longTimeCanceled() { m_longTimeCanceled.set(true); }
+  /// Closes the sheet. Also called when the sheet has ended, so it is harmless on a closed one.
+  void didEndLongTimeSheetReturnCodeContextInfo();
+  void updateLongTerm(double value);
+
+  // ---- The scan's phases: ProjectWindowControllerScan.cpp ----
+
+  /// Background.
+  std::optional<FileUrl> xcodeProjectUrl(const FileUrl& directory);
+  /// Phase one. Background.
+  void parseFileList(const FileUrl& directory);
+  /// Background.
+  void contentsOfUrlDestination(const FileUrl& directory, ScanResult& destination);
+  void endParseFileList(std::shared_ptr<ScanResult> result);
+  /// Phase two. A cancel noticed in it ends it without a word to the main thread, so the sheet stays up. Background.
+  void parseLocalizableStringsList(std::shared_ptr<ScanResult> result);
+  void endParseLocalizeableStringList(ScanResult& result);
+
+  // ---- Filter, status and navigation: ProjectWindowControllerEditing.cpp ----
+
+  void changeStringFilter();
+  void stringChangedNotification();
+  std::int64_t totalLanguages() const override;
+  std::shared_ptr<LocalizeString> selectedString() const override;
+  std::shared_ptr<Language> selectedLanguage() const override;
+  /// Counts the records of stringList() only; those that the filter holds back are complete.
+  const std::string& languageStatus(const Language& language) const override;
+  std::string languageStatusString(const Language& language) const override;
+  /// How many records of stringList() have no translation in this language.
+  std::size_t missingTranslations(const Language& language) const;
+  NotificationCenter& notifications() const override { return m_host.notifications; }
+  void translationCountChanged(LanguageCode code, int difference) override;
+  /// The selection of the language table has changed: the editor shows the translation of the new language.
+  void languageSelectionDidChange();
+  bool canSelectPrevString() const { return m_stringController.canSelectPrevious(); }
+  bool canSelectNextString() const { return m_stringController.canSelectNext(); }
+  bool canSelectPrevLanguage() const { return m_languageController.canSelectPrevious(); }
+  bool canSelectNextLanguage() const { return m_languageController.canSelectNext(); }
+  void selectPrevString();
+  void selectNextString();
+  void selectPrevLanguage();
+  void selectNextLanguage();
+  bool canClose() const { return m_opened; }
+  bool canSave() const { return m_changed && m_opened; }
+  /// The tool-bar item with tag 2 saves; every other one is always enabled.
+  bool validateToolbarItem(int tag) const;
+
+  // ---- Saving and closing: ProjectWindowControllerSaving.cpp ----
+
+  bool saveLanguage(Language& language);
+  /// Every language is tried; afterwards the project counts as saved, also when one failed. True when all were written.
+  bool saveProject();
+  void saveProjectButton() { saveProject(); }
+  /// Asks what to do about unsaved changes. False when the project stays open.
+  bool closeProject();
+  void closeProjectButton() { closeProject(); }
+
+  // ---- Base language: ProjectWindowControllerBaseLanguage.cpp ----
+
+  void languageFromBaseLanguage(std::shared_ptr<Language> language);
+  /// Background.
+  void bgLanguageFromBaseLanguage(const Language& language);
+  void endLanguageFromBase();
+
+  // ---- Export: ProjectWindowControllerExport.cpp ----
+
+  void exportLanguageToFileAllStrings(std::shared_ptr<Language> language, const FileUrl& file, bool allStrings);
+  /// Background.
+  void bgExportLanguage(const Language& language, const FileUrl& file, bool allStrings);
+  /// Writes the text, when there is one, and closes the sheet.
+  void saveExportTextFile(const Language& language, const FileUrl& file, const std::optional<std::string>& text);
+
+  // ---- Import: ProjectWindowControllerImport.cpp ----
+
+  void importLanguageFromFile(std::shared_ptr<Language> language, const FileUrl& file);
+  /// Background.
+  void bgImportLanguage(const Language& language, const FileUrl& file);
+  void endImport();
+
+  // ---- Dialogs: ProjectWindowControllerDialogs.cpp ----
+
+  void exportStrings();
+  void importStrings();
+  void createBaseLanguage();
+  void addLanguage();
+  void languageWindowControllerDidSelectAllStrings(LanguageWindowController& chooser,
+                                                   std::shared_ptr<Language> language, bool allStrings) override;
+  void languageWindowControllerDidCancel(LanguageWindowController& chooser) override;
+  void didEndSelectLanguageWindowSheet();
+  void selectLanguageWindowControllerDidSelect(SelectLanguageWindowController& dialog,
+                                               std::shared_ptr<Language> language) override;
+
+ private:
+  void windowDidLoad();
+  void loadIsoTable();
+  std::string localized(std::string_view key) const { return m_host.bundle.localizedString(key); }
+  void systemLog(std::string_view message) { m_host.systemLog.write(message); }
+  void onMainThread(const std::function<void()>& work) { m_host.threads.performOnMainThreadAndWait(work); }
+  void runOkAlert(const std::string& message);
+
+  void beginLongTimeSheet(std::string_view titleKey);
+  void makeIndicatorIndeterminate();
+  void makeIndicatorCounting();
+
+  void readProjectFile(const FileUrl& package);
+  void oldLanguageName(std::string_view directoryName, const std::string& code) override;
+  void foundStringsFile(const Language& language) override;
+  void sourceFile(const FileUrl& file) override;
+  void logSourceError(const FileUrl& file, const Error& error);
+  void badStringFormat(const std::string& excerpt);
+  /// False when a cancel was noticed, which ends the phase.
+  bool parseLocalizableStrings(const Language& language, ScanResult& result, KeyReader& keys,
+                               TranslationColumns& columns);
+  bool logDiagnostics(const StringsFileContent& content);
+  void logDiagnostic(const StringsFileDiagnostic& diagnostic);
+  void logMissingStrings(const Language& language);
+  void installResult(ScanResult& result);
+
+  void holdBackCompleteStrings();
+  void giveBackStrings();
+  void step(const std::function<void()>& select);
+  bool saveLanguageFrom(StringsFileTexts& texts, Language& language);
+  bool createStringsDirectory(const Language& language);
+
+  void showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name);
+  void chooseExportFile(std::shared_ptr<Language> language, bool allStrings);
+  void chooseImportFile(std::shared_ptr<Language> language);
+  FileUrl newLanguageParent();
+  bool createLanguageDirectory(const Language& language);
+  bool applyImport(const std::unordered_map<std::string, std::string>& table, const Language& language);
+  void endCanceledImport(const Language& language, const FileUrl& file);
+
+  Host m_host;
+  ApplicationServices& m_application;
+  StatusTexts m_statusTexts;
+
+  Interface<ProjectWindowOutlets> m_window;
+  Interface<LongTimeSheetOutlets> m_longTime;
+  CancelFlag m_longTimeCanceled;
+  bool m_longJobRunning = false;
+
+  std::shared_ptr<SelectLanguageWindowController> m_selectLanguageWindowController;
+  std::shared_ptr<SelectLanguageWindowController> m_endedSelectLanguageWindowController;
+  std::shared_ptr<LanguageWindowController> m_exportLanguageWindowController;
+  std::shared_ptr<LanguageWindowController> m_baseLanguageWindowController;
+  std::shared_ptr<LanguageWindowController> m_importLanguageWindowController;
+
+  StringController m_stringController;      ///< its content is the string list
+  LanguageController m_languageController;  ///< its content is the list of languages
+  std::vector<FileUrl> m_fileList;
+  StringArray m_filteredStringList;  ///< held back from the string table by the filter
+  mutable TranslationCounts m_counts;
+
+  std::optional<std::string> m_projectFileData;  ///< nothing until a project file was read
+  FileUrl m_projectDirectory;
+  std::optional<FileUrl> m_projectPackage;
+  IsoTable m_iso639Dict;
+  FileUrl m_actualParseFileName;
+  TreeWalkState m_walkState;
+  ScanResult* m_walkDestination = nullptr;  ///< while a walk runs
+  bool m_changed = false;
+  bool m_opened = false;
+};
+
+}  // namespace glossmill

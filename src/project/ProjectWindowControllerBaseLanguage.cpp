@@ -1,0 +1,37 @@
+#include "edit/BaseLanguage.h"
+#include "project/ProjectWindowController.h"
+
+namespace glossmill {
+
+void ProjectWindowController::languageFromBaseLanguage(std::shared_ptr<Language> language) {
+  if (!language) return;
+  beginLongTimeSheet("Creating base language...");
+  makeIndicatorCounting();
+  m_window.outlets.stringTableView->beginUpdates();
+  m_host.threads.performInBackground([this, language] { bgLanguageFromBaseLanguage(*language); });
+}
+
+/// Records are changed on the main thread, so that whatever is drawn meanwhile finds them whole.
+void ProjectWindowController::bgLanguageFromBaseLanguage(const Language& language) {
+  double progress = 0;
+  for (const std::shared_ptr<LocalizeString>& record : stringList()) {
+    if (m_longTimeCanceled.isSet()) break;
+    ++progress;
+    onMainThread([&] {
+      updateLongTerm(progress);
+      if (fillFromKey(*record, language.code()) && !m_changed) setChanged(true);
+    });
+  }
+  onMainThread([this] { endLanguageFromBase(); });
+}
+
+void ProjectWindowController::endLanguageFromBase() {
+  m_counts.invalidate();
+  m_window.outlets.stringTableView->reloadData();
+  m_window.outlets.languageTableView->reloadData();
+  m_window.outlets.stringTableView->endUpdates();
+  m_window.outlets.translationTextView->translationChanged();
+  didEndLongTimeSheetReturnCodeContextInfo();
+}
+
+}  // namespace glossmill

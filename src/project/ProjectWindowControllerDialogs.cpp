@@ -1,0 +1,103 @@
+#include "dialogs/LanguageWindowController.h"
+#include "dialogs/SelectLanguageWindowController.h"
+#include "project/ProjectWindowController.h"
+#include "text/Format.h"
+
+namespace glossmill {
+
+void ProjectWindowController::exportStrings() {
+  showChooser(m_exportLanguageWindowController, "ExportLanguageWindowController");
+}
+
+void ProjectWindowController::importStrings() {
+  showChooser(m_importLanguageWindowController, "LanguageWindowController");
+}
+
+void ProjectWindowController::createBaseLanguage() {
+  showChooser(m_baseLanguageWindowController, "LanguageWindowController");
+}
+
+/// A chooser is made on first use and kept, with the array of languages that the project had then. A language that was
+/// added to the project since is in the same array.
+void ProjectWindowController::showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name) {
+  if (!chooser) chooser = std::make_shared<LanguageWindowController>(m_host, name, languagesList());
+  chooser->languageController().rearrange();
+  chooser->setDelegate(this);
+  m_host.sheets.beginSheet(chooser->window(), [] {});
+}
+
+void ProjectWindowController::languageWindowControllerDidSelectAllStrings(LanguageWindowController& chooser,
+                                                                          std::shared_ptr<Language> language,
+                                                                          bool allStrings) {
+  if (!language) return;
+  if (&chooser == m_exportLanguageWindowController.get()) chooseExportFile(language, allStrings);
+  if (&chooser == m_importLanguageWindowController.get()) chooseImportFile(language);
+  if (&chooser == m_baseLanguageWindowController.get()) languageFromBaseLanguage(language);
+}
+
+void ProjectWindowController::languageWindowControllerDidCancel(LanguageWindowController&) {}
+
+void ProjectWindowController::chooseExportFile(std::shared_ptr<Language> language, bool allStrings) {
+  SavePanelRequest request;
+  request.proposedName =
+      formatText(localized("%@_%@.txt"), {m_projectDirectory.lastPathComponent(), language->iso639()});
+  m_host.panels.beginSavePanel(request, [this, language, allStrings](const std::optional<FileUrl>& file) {
+    if (file) exportLanguageToFileAllStrings(language, *file, allStrings);
+  });
+}
+
+void ProjectWindowController::chooseImportFile(std::shared_ptr<Language> language) {
+  OpenPanelRequest request;
+  request.title = localized("Select file");
+  request.fileTypes = {"txt", "rtf", "TXT", "RTF"};
+  const std::optional<FileUrl> file = m_host.panels.runOpenPanel(request);
+  if (file) importLanguageFromFile(language, *file);
+}
+
+void ProjectWindowController::addLanguage() {
+  if (!m_selectLanguageWindowController) {
+    m_selectLanguageWindowController =
+        std::make_shared<SelectLanguageWindowController>(m_host, languagesList(), m_iso639Dict);
+  }
+  m_selectLanguageWindowController->setDelegate(this);
+  m_host.sheets.beginSheet(m_selectLanguageWindowController->window(), [this] { didEndSelectLanguageWindowSheet(); });
+}
+
+/// The dialog that is ending is still at work, so it goes away only when the next one is made.
+void ProjectWindowController::didEndSelectLanguageWindowSheet() {
+  m_endedSelectLanguageWindowController = std::move(m_selectLanguageWindowController);
+  m_selectLanguageWindowController = nullptr;
+}
+
+void ProjectWindowController::selectLanguageWindowControllerDidSelect(SelectLanguageWindowController&,
+                                                                      std::shared_ptr<Language> chosen) {
+  if (!chosen) return;
+  const auto language = std::make_shared<Language>(*chosen);
+  const FileUrl directory = newLanguageParent().appending(formatText("%@.lproj", {language->iso639()}));
+  language->setLocalizedStringUrl(directory);
+  language->setUrlDepth(0);
+  TableView& table = *m_window.outlets.stringTableView;
+  table.beginUpdates();
+  table.reloadData();
+  table.endUpdates();
+  if (m_host.files.kindOf(directory) != EntryKind::Missing || createLanguageDirectory(*language)) {
+    m_languageController.addObject(language);
+  }
+}
+
+/// Projects often keep their sources in a directory of their own name below the project directory.
+FileUrl ProjectWindowController::newLanguageParent() {
+  const FileUrl inner = m_projectDirectory.appending(m_projectDirectory.lastPathComponent());
+  return m_host.files.kindOf(inner) == EntryKind::Missing ? m_projectDirectory : inner;
+}
+
+bool ProjectWindowController::createLanguageDirectory(const Language& language) {
+  const FileUrl& directory = language.localizedStringUrl();
+  const Outcome created = m_host.files.createDirectory(directory, false);
+  if (created) return true;
+  runOkAlert(formatText(localized("Error creating %@ for language %@"), {directory.text(), language.description()}));
+  systemLog(formatText("Error %@ creating directory %@", {created.error().sentence, directory.text()}));
+  return false;
+}
+
+}  // namespace glossmill

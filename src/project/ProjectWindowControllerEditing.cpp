@@ -1,0 +1,106 @@
+#include "project/ProjectWindowController.h"
+
+namespace glossmill {
+
+namespace {
+
+constexpr int kAllStrings = 0;
+constexpr int kStringsNotComplete = 1;
+constexpr int kSaveToolbarItem = 2;
+
+}  // namespace
+
+void ProjectWindowController::changeStringFilter() {
+  m_window.outlets.stringTableView->beginUpdates();
+  const int index = m_window.outlets.stringFilterPopUp->indexOfSelectedItem();
+  m_host.defaults.setInteger("StringFilterPopUp", index);
+  m_host.defaults.synchronize();
+  if (index == kStringsNotComplete) holdBackCompleteStrings();
+  if (index == kAllStrings) giveBackStrings();
+  m_window.outlets.stringTableView->endUpdates();
+}
+
+void ProjectWindowController::holdBackCompleteStrings() {
+  const auto isComplete = [this](const LocalizeString& record) {
+    return record.status(m_statusTexts, this) == m_statusTexts.completeString;
+  };
+  for (const std::shared_ptr<LocalizeString>& record : stringList()) {
+    if (isComplete(*record)) m_filteredStringList.push_back(record);
+  }
+  m_stringController.removeObjectsIf(isComplete);
+}
+
+void ProjectWindowController::giveBackStrings() {
+  m_stringController.addObjects(m_filteredStringList);
+  m_filteredStringList.clear();
+}
+
+void ProjectWindowController::stringChangedNotification() {
+  setChanged(true);
+}
+
+std::int64_t ProjectWindowController::totalLanguages() const {
+  return static_cast<std::int64_t>(languagesList()->size());
+}
+
+std::shared_ptr<LocalizeString> ProjectWindowController::selectedString() const {
+  return m_stringController.selectedObject();
+}
+
+std::shared_ptr<Language> ProjectWindowController::selectedLanguage() const {
+  return m_languageController.selectedObject();
+}
+
+std::size_t ProjectWindowController::missingTranslations(const Language& language) const {
+  return m_counts.missing(language.code(), stringList());
+}
+
+const std::string& ProjectWindowController::languageStatus(const Language& language) const {
+  return missingTranslations(language) == 0 ? m_statusTexts.completeString : m_statusTexts.incompleteString;
+}
+
+std::string ProjectWindowController::languageStatusString(const Language& language) const {
+  const std::size_t missing = missingTranslations(language);
+  return missing == 0 ? m_statusTexts.completeString : m_statusTexts.missingString(static_cast<std::int64_t>(missing));
+}
+
+void ProjectWindowController::translationCountChanged(LanguageCode code, int difference) {
+  m_counts.adjust(code, difference);
+}
+
+/// The write-back changes nothing; it makes everything that shows the translation look again.
+void ProjectWindowController::languageSelectionDidChange() {
+  const std::shared_ptr<LocalizeString> record = selectedString();
+  if (!record) return;
+  record->setTranslationForSelectedString(record->translationForSelectedString(this), this);
+  m_window.outlets.translationTextView->translationChanged();
+}
+
+void ProjectWindowController::selectPrevString() {
+  step([this] { m_stringController.selectPrevious(); });
+}
+
+void ProjectWindowController::selectNextString() {
+  step([this] { m_stringController.selectNext(); });
+}
+
+void ProjectWindowController::selectPrevLanguage() {
+  step([this] { m_languageController.selectPrevious(); });
+}
+
+void ProjectWindowController::selectNextLanguage() {
+  step([this] { m_languageController.selectNext(); });
+}
+
+/// Commits an edit in progress, moves the selection, and puts the keyboard back into the editor.
+void ProjectWindowController::step(const std::function<void()>& select) {
+  m_window.outlets.window->clearFirstResponder();
+  select();
+  m_window.outlets.window->focusMainField();
+}
+
+bool ProjectWindowController::validateToolbarItem(int tag) const {
+  return tag == kSaveToolbarItem ? canSave() : true;
+}
+
+}  // namespace glossmill

@@ -1,0 +1,53 @@
+#include "exchange/ImportText.h"
+#include "platform/ReadText.h"
+#include "project/ProjectWindowController.h"
+
+namespace glossmill {
+
+void ProjectWindowController::importLanguageFromFile(std::shared_ptr<Language> language, const FileUrl& file) {
+  if (!language || file.empty()) return;
+  beginLongTimeSheet("Importing strings...");
+  makeIndicatorCounting();
+  m_window.outlets.stringTableView->beginUpdates();
+  m_host.threads.performInBackground([this, language, file] { bgImportLanguage(*language, file); });
+}
+
+void ProjectWindowController::bgImportLanguage(const Language& language, const FileUrl& file) {
+  const Result<std::string> text = readText(m_host.files, file);
+  const bool finished = !text || applyImport(importTable(text.value()), language);
+  onMainThread([&] { finished ? endImport() : endCanceledImport(language, file); });
+}
+
+/// False when it was cancelled; what was applied until then stays. Records are changed on the main thread, so that
+/// whatever is drawn meanwhile finds them whole.
+bool ProjectWindowController::applyImport(const ImportTable& table, const Language& language) {
+  double counter = 0;
+  for (const std::shared_ptr<LocalizeString>& record : stringList()) {
+    if (m_longTimeCanceled.isSet()) return false;
+    ++counter;
+    const auto found = table.find(record->name());
+    onMainThread([&] {
+      updateLongTerm(counter);
+      if (found != table.end()) record->languagesDict().set(language.code(), found->second);
+    });
+  }
+  return true;
+}
+
+/// Closes the sheet by the way of the export, with no text to write, and deliberately leaves the batch of updates open.
+void ProjectWindowController::endCanceledImport(const Language& language, const FileUrl& file) {
+  m_counts.invalidate();
+  m_window.outlets.translationTextView->translationChanged();
+  saveExportTextFile(language, file, std::nullopt);
+}
+
+void ProjectWindowController::endImport() {
+  m_counts.invalidate();
+  m_window.outlets.languageTableView->reloadData();
+  m_window.outlets.stringTableView->reloadData();
+  m_window.outlets.stringTableView->endUpdates();
+  m_window.outlets.translationTextView->translationChanged();
+  didEndLongTimeSheetReturnCodeContextInfo();
+}
+
+}  // namespace glossmill
