@@ -4,13 +4,10 @@
 
 #include "cli/Paths.h"
 #include "cli/ProjectSession.h"
-#include "dialogs/SelectLanguageWindowController.h"
 
 namespace glossmill {
 
 namespace {
-
-constexpr int kBothCodeLengths = 2;
 
 struct AddLanguageOptions {
   std::string directory;
@@ -32,26 +29,10 @@ bool isNewLanguage(const ProjectSession& session, const std::string& code) {
   return true;
 }
 
-/// Chooses the code in the add-language dialog, as a person would.
-void chooseInDialog(ProjectSession& session, const std::string& code) {
-  session.project().addLanguage();
-  HeadlessSelectLanguageWindow& form = *session.interfaces().selectLanguageWindow();
-  SelectLanguageWindowController& dialog = *form.owner;
-  form.isoPopUpButton.selectItemAtIndex(kBothCodeLengths);
-  dialog.changeFilter();
-  ArrayController<Language>& listed = dialog.languageController();
-  std::size_t row = 0;
-  while (row < listed.arrangedCount() && listed.arrangedObject(row)->iso639() != code) ++row;
-  listed.setSelectionIndex(row);
-  dialog.done();
-}
-
 ExitCode addLanguageToProject(ProjectSession& session, const AddLanguageOptions& options) {
-  const std::size_t before = session.project().languagesList()->size();
-  chooseInDialog(session, options.code);
-  const LanguageArray& languages = *session.project().languagesList();
-  if (languages.size() == before) return ExitCode::Unusable;
-  const bool saved = !options.save || session.project().saveLanguage(*languages.back());
+  const std::shared_ptr<Language> added = session.project().addLanguage(options.code);
+  if (!added) return ExitCode::Unusable;
+  const bool saved = !options.save || session.project().saveLanguage(*added);
   session.reportFiles();
   return saved ? ExitCode::Fine : ExitCode::Unusable;
 }

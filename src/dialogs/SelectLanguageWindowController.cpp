@@ -1,7 +1,6 @@
 #include "dialogs/SelectLanguageWindowController.h"
 
-#include <algorithm>
-
+#include "dialogs/LanguageEntry.h"
 #include "text/FoldCase.h"
 
 namespace glossmill {
@@ -55,27 +54,13 @@ void SelectLanguageWindowController::changeFilter() {
   const int choice = m_interface.outlets.isoPopUpButton->indexOfSelectedItem();
   LanguageArray entries;
   for (const auto& [code, name] : m_languageDict.all()) {
-    if (isListed(code.size(), choice)) entries.push_back(entryFor(code, name));
+    if (!isListed(code.size(), choice)) continue;
+    entries.push_back(std::make_shared<Language>(languageEntry(code, name, *m_usedLanguagesArray)));
   }
   m_languageController.addObjects(entries);
   m_interface.outlets.tableView->endUpdates();
   m_host.defaults.setInteger(kFilterSetting, choice);
   m_host.defaults.synchronize();
-}
-
-std::shared_ptr<Language> SelectLanguageWindowController::entryFor(const std::string& code,
-                                                                   const std::string& name) const {
-  auto entry = std::make_shared<Language>();
-  entry->setIso639(code);
-  entry->setDescription(name);
-  entry->setIsIso639_2(code.size() == 3);
-  entry->setInUse(isUsed(entry->code()));
-  return entry;
-}
-
-bool SelectLanguageWindowController::isUsed(LanguageCode code) const {
-  return std::any_of(m_usedLanguagesArray->begin(), m_usedLanguagesArray->end(),
-                     [code](const std::shared_ptr<Language>& language) { return language->code() == code; });
 }
 
 void SelectLanguageWindowController::search(std::string_view text) {

@@ -35,8 +35,6 @@ class SelectLanguageWindowController {
   void cancel();
 
  private:
-  bool isUsed(LanguageCode code) const;
-  std::shared_ptr<Language> entryFor(const std::string& code, const std::string& name) const;
   void endSheet();
 
   Host m_host;

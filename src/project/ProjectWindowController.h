@@ -172,6 +172,9 @@ class ProjectWindowController : public ProjectContext,
   void importStrings();
   void createBaseLanguage();
   void addLanguage();
+  /// Adds a language as if its code had been chosen in the dialog. Null when the ISO 639 table does not hold the code,
+  /// no project was opened yet, or the directory cannot be made.
+  std::shared_ptr<Language> addLanguage(std::string_view code);
   void languageWindowControllerDidSelectAllStrings(LanguageWindowController& chooser,
                                                    std::shared_ptr<Language> language, bool allStrings) override;
   void languageWindowControllerDidCancel(LanguageWindowController& chooser) override;
@@ -214,6 +217,7 @@ class ProjectWindowController : public ProjectContext,
   void showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name);
   void chooseExportFile(std::shared_ptr<Language> language, bool allStrings);
   void chooseImportFile(std::shared_ptr<Language> language);
+  std::shared_ptr<Language> addChosenLanguage(const Language& chosen);
   FileUrl newLanguageParent();
   bool createLanguageDirectory(const Language& language);
   bool applyImport(const std::unordered_map<std::string, std::string>& table, const Language& language);

@@ -1,3 +1,4 @@
+#include "dialogs/LanguageEntry.h"
 #include "dialogs/LanguageWindowController.h"
 #include "dialogs/SelectLanguageWindowController.h"
 #include "project/ProjectWindowController.h"
@@ -71,8 +72,18 @@ void ProjectWindowController::didEndSelectLanguageWindowSheet() {
 
 void ProjectWindowController::selectLanguageWindowControllerDidSelect(SelectLanguageWindowController&,
                                                                       std::shared_ptr<Language> chosen) {
-  if (!chosen) return;
-  const auto language = std::make_shared<Language>(*chosen);
+  if (chosen) addChosenLanguage(*chosen);
+}
+
+std::shared_ptr<Language> ProjectWindowController::addLanguage(std::string_view code) {
+  const std::optional<std::string> name = m_iso639Dict.nameOf(code);
+  return name ? addChosenLanguage(languageEntry(code, *name, *languagesList())) : nullptr;
+}
+
+/// Without a project directory the new one would be made at the root of the disk.
+std::shared_ptr<Language> ProjectWindowController::addChosenLanguage(const Language& chosen) {
+  if (m_projectDirectory.empty()) return nullptr;
+  const auto language = std::make_shared<Language>(chosen);
   const FileUrl directory = newLanguageParent().appending(formatText("%@.lproj", {language->iso639()}));
   language->setLocalizedStringUrl(directory);
   language->setUrlDepth(0);
@@ -80,9 +91,9 @@ void ProjectWindowController::selectLanguageWindowControllerDidSelect(SelectLang
   table.beginUpdates();
   table.reloadData();
   table.endUpdates();
-  if (m_host.files.kindOf(directory) != EntryKind::Missing || createLanguageDirectory(*language)) {
-    m_languageController.addObject(language);
-  }
+  if (m_host.files.kindOf(directory) == EntryKind::Missing && !createLanguageDirectory(*language)) return nullptr;
+  m_languageController.addObject(language);
+  return language;
 }
 
 /// Projects often keep their sources in a directory of their own name below the project directory.

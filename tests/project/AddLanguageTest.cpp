@@ -182,5 +182,59 @@ TEST_F(AddLanguage, DoesNothingWithoutALanguage) {
   EXPECT_TRUE(m_test.host.files.created().empty());
 }
 
+TEST_F(AddLanguage, TakesACodeAsIfItHadBeenChosenInTheDialog) {
+  const int before = m_test.window().stringTableView.reloadCount;
+  const std::shared_ptr<Language> added = m_test.project().addLanguage("deu");
+  EXPECT_EQ(codes(), (Codes{"de", "deu"}));
+  EXPECT_EQ(m_test.project().languagesList()->back(), added);
+  EXPECT_EQ(added->localizedStringUrl().path(), "/x/App/deu.lproj");
+  EXPECT_EQ(added->urlDepth(), 0);
+  EXPECT_EQ(added->description(), "German");
+  EXPECT_TRUE(added->isIso639_2());
+  EXPECT_FALSE(added->inUse());
+  EXPECT_EQ(m_test.host.files.created(), (Paths{"/x/App/deu.lproj"}));
+  EXPECT_EQ(m_test.window().stringTableView.reloadCount, before + 1);
+  EXPECT_FALSE(m_test.project().changed());
+}
+
+TEST_F(AddLanguage, TakesACodeWithoutShowingTheDialogOrRememberingAKindOfCodes) {
+  m_test.host.defaults.setInteger("SelectLangaugeFilterButtonState", 1);
+  m_test.project().addLanguage("fr");
+  EXPECT_EQ(m_test.host.interfaces.selectLanguageWindow(), nullptr);
+  EXPECT_EQ(m_test.host.defaults.integerForKey("SelectLangaugeFilterButtonState"), 1);
+}
+
+TEST_F(AddLanguage, TakesTheCodeOfALanguageThatTheProjectHasLikeTheDialog) {
+  EXPECT_TRUE(m_test.project().addLanguage("de")->inUse());
+  EXPECT_EQ(codes(), (Codes{"de", "de"}));
+}
+
+TEST_F(AddLanguage, AddsNothingForACodeThatTheTableDoesNotHold) {
+  EXPECT_EQ(m_test.project().addLanguage("English"), nullptr);
+  EXPECT_EQ(m_test.project().addLanguage(""), nullptr);
+  EXPECT_EQ(codes(), (Codes{"de"}));
+  EXPECT_TRUE(m_test.host.files.created().empty());
+}
+
+TEST_F(AddLanguage, GivesNoLanguageForACodeWhoseDirectoryCannotBeCreated) {
+  m_test.host.files.failCreating("/x/App/fr.lproj", "The disk is read-only.");
+  EXPECT_EQ(m_test.project().addLanguage("fr"), nullptr);
+  EXPECT_EQ(codes(), (Codes{"de"}));
+  EXPECT_EQ(m_test.alertMessages(), (Codes{"Error creating file:///x/App/fr.lproj for language French"}));
+}
+
+TEST(AddLanguageBeforeAnyProject, CreatesNothing) {
+  TestProject test;
+  test.application.openProjectWindow();
+  test.project().addLanguage();
+  HeadlessSelectLanguageWindow& sheet = *test.host.interfaces.selectLanguageWindow();
+  ASSERT_TRUE(sheet.owner->languageController().selectedObject());
+  sheet.owner->done();
+  EXPECT_EQ(test.project().addLanguage("de"), nullptr);
+  EXPECT_TRUE(test.host.files.created().empty());
+  EXPECT_TRUE(test.project().languagesList()->empty());
+  EXPECT_TRUE(test.host.panels.alerts.empty());
+}
+
 }  // namespace
 }  // namespace glossmill
