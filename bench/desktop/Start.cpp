@@ -10,8 +10,8 @@
 #include <set>
 
 #include "desktop/ApplicationSetup.h"
-#include "desktop/CommandLine.h"
 #include "desktop/DesktopProgram.h"
+#include "desktop/LaunchArguments.h"
 #include "host/AllocatorSettings.h"
 
 namespace {
@@ -48,11 +48,11 @@ class UsableWindow : public QObject {
 
 int main(int argc, char** argv) {
   glossmill::setAllocatorForScans();
-  const glossmill::CommandLine line = glossmill::readCommandLine(argc, argv, "");
-  if (!line.directory) return 2;
+  const glossmill::LaunchArguments launch = glossmill::readLaunchArguments(argc, argv, "");
+  if (!launch.directory) return 2;
   QApplication application(argc, argv);
   glossmill::DesktopProgram program(glossmill::setUpApplication(application, QLocale::system().uiLanguages(), "0.0.0"));
   const UsableWindow usable(program);
-  QTimer::singleShot(0, [&] { program.start(line.directory); });
+  QTimer::singleShot(0, [&] { program.start(launch.directory); });
   return QApplication::exec();
 }

@@ -52,10 +52,10 @@ ExitCode addNewLanguage(const AddLanguageOptions& options, Console& console) {
 
 }  // namespace
 
-void addAddLanguageCommand(CLI::App& program, CommandLine& line) {
+void addAddLanguageCommand(CLI::App& program, TypedCommand& typed) {
   const auto options = std::make_shared<AddLanguageOptions>();
   CLI::App& command = addCommand(
-      program, line, {"add-language", "Create the directory of a new language", "~/Projects/Harbour sv --save"},
+      program, typed, {"add-language", "Create the directory of a new language", "~/Projects/Harbour sv --save"},
       [options](Console& console) { return addNewLanguage(*options, console); });
   addDirectory(command, options->directory);
   addRequired(command, "CODE", options->code, "ISO 639 code of the language, two or three letters");

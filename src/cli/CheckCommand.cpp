@@ -54,10 +54,10 @@ ExitCode check(const CheckOptions& options, Console& console) {
 
 }  // namespace
 
-void addCheckCommand(CLI::App& program, CommandLine& line) {
+void addCheckCommand(CLI::App& program, TypedCommand& typed) {
   const auto options = std::make_shared<CheckOptions>();
   CLI::App& command = addCommand(
-      program, line, {"check", "Fail unless languages are complete, for build servers", "~/Projects/Harbour --quiet"},
+      program, typed, {"check", "Fail unless languages are complete, for build servers", "~/Projects/Harbour --quiet"},
       [options](Console& console) { return check(*options, console); });
   addDirectory(command, options->directory);
   addLanguages(command, options->languages);

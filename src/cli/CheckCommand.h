@@ -1,10 +1,10 @@
 #pragma once
 
-#include "cli/CommandLine.h"
+#include "cli/TypedCommand.h"
 
 namespace glossmill {
 
 /// `check DIR`: whether languages are complete, for scripts and build servers.
-void addCheckCommand(CLI::App& program, CommandLine& line);
+void addCheckCommand(CLI::App& program, TypedCommand& typed);
 
 }  // namespace glossmill

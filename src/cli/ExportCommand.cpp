@@ -51,9 +51,9 @@ ExitCode exportLanguage(const ExportOptions& options, Console& console) {
 
 }  // namespace
 
-void addExportCommand(CLI::App& program, CommandLine& line) {
+void addExportCommand(CLI::App& program, TypedCommand& typed) {
   const auto options = std::make_shared<ExportOptions>();
-  CLI::App& command = addCommand(program, line,
+  CLI::App& command = addCommand(program, typed,
                                  {"export", "Write one language to a text file for a translator",
                                   "~/Projects/Harbour --language de --untranslated --output Harbour_de.txt"},
                                  [options](Console& console) { return exportLanguage(*options, console); });

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "cli/CommandLine.h"
+#include "cli/TypedCommand.h"
 
 namespace glossmill {
 
 /// `export DIR`: one language as a text file for a translator.
-void addExportCommand(CLI::App& program, CommandLine& line);
+void addExportCommand(CLI::App& program, TypedCommand& typed);
 
 }  // namespace glossmill

@@ -29,9 +29,9 @@ ExitCode fill(const FillOptions& options, Console& console) {
 
 }  // namespace
 
-void addFillCommand(CLI::App& program, CommandLine& line) {
+void addFillCommand(CLI::App& program, TypedCommand& typed) {
   const auto options = std::make_shared<FillOptions>();
-  CLI::App& command = addCommand(program, line,
+  CLI::App& command = addCommand(program, typed,
                                  {"fill", "Give every missing entry of a language its key as translation, and save",
                                   "~/Projects/Harbour --language en"},
                                  [options](Console& console) { return fill(*options, console); });

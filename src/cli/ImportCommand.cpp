@@ -90,9 +90,9 @@ ExitCode importLanguage(const ImportOptions& options, Console& console) {
 
 }  // namespace
 
-void addImportCommand(CLI::App& program, CommandLine& line) {
+void addImportCommand(CLI::App& program, TypedCommand& typed) {
   const auto options = std::make_shared<ImportOptions>();
-  CLI::App& command = addCommand(program, line,
+  CLI::App& command = addCommand(program, typed,
                                  {"import", "Take over the translations of a filled-in text file, and save",
                                   "~/Projects/Harbour --language de Harbour_de.txt"},
                                  [options](Console& console) { return importLanguage(*options, console); });

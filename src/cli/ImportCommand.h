@@ -1,10 +1,10 @@
 #pragma once
 
-#include "cli/CommandLine.h"
+#include "cli/TypedCommand.h"
 
 namespace glossmill {
 
 /// `import DIR FILE`: takes over what a translator filled in.
-void addImportCommand(CLI::App& program, CommandLine& line);
+void addImportCommand(CLI::App& program, TypedCommand& typed);
 
 }  // namespace glossmill

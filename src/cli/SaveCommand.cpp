@@ -23,10 +23,10 @@ ExitCode save(const SaveOptions& options, Console& console) {
 
 }  // namespace
 
-void addSaveCommand(CLI::App& program, CommandLine& line) {
+void addSaveCommand(CLI::App& program, TypedCommand& typed) {
   const auto options = std::make_shared<SaveOptions>();
   CLI::App& command =
-      addCommand(program, line, {"save", "Rewrite the strings file of every language", "~/Projects/Harbour --dry-run"},
+      addCommand(program, typed, {"save", "Rewrite the strings file of every language", "~/Projects/Harbour --dry-run"},
                  [options](Console& console) { return save(*options, console); });
   addDirectory(command, options->directory);
   addDryRun(command, options->dryRun);

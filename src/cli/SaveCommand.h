@@ -1,10 +1,10 @@
 #pragma once
 
-#include "cli/CommandLine.h"
+#include "cli/TypedCommand.h"
 
 namespace glossmill {
 
 /// `save DIR`: rewrites the strings file of every language.
-void addSaveCommand(CLI::App& program, CommandLine& line);
+void addSaveCommand(CLI::App& program, TypedCommand& typed);
 
 }  // namespace glossmill

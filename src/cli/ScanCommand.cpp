@@ -56,10 +56,10 @@ ExitCode scan(const ScanOptions& options, Console& console) {
 
 }  // namespace
 
-void addScanCommand(CLI::App& program, CommandLine& line) {
+void addScanCommand(CLI::App& program, TypedCommand& typed) {
   const auto options = std::make_shared<ScanOptions>();
   CLI::App& command = addCommand(
-      program, line, {"scan", "Show what a project holds: its languages, keys and gaps", "~/Projects/Harbour"},
+      program, typed, {"scan", "Show what a project holds: its languages, keys and gaps", "~/Projects/Harbour"},
       [options](Console& console) { return scan(*options, console); });
   addDirectory(command, options->directory);
   addFlag(command, "--json", options->json, "Print everything that was found as JSON");

@@ -88,9 +88,9 @@ ExitCode status(const StatusOptions& options, Console& console) {
 
 }  // namespace
 
-void addStatusCommand(CLI::App& program, CommandLine& line) {
+void addStatusCommand(CLI::App& program, TypedCommand& typed) {
   const auto options = std::make_shared<StatusOptions>();
-  CLI::App& command = addCommand(program, line,
+  CLI::App& command = addCommand(program, typed,
                                  {"status", "Show how much of each language is translated",
                                   "~/Projects/Harbour --language de --language fr --missing"},
                                  [options](Console& console) { return status(*options, console); });

@@ -6,7 +6,6 @@
 
 #include "cli/AddLanguageCommand.h"
 #include "cli/CheckCommand.h"
-#include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/ExitCode.h"
 #include "cli/ExportCommand.h"
@@ -15,6 +14,7 @@
 #include "cli/SaveCommand.h"
 #include "cli/ScanCommand.h"
 #include "cli/StatusCommand.h"
+#include "cli/TypedCommand.h"
 #include "host/AllocatorSettings.h"
 
 namespace glossmill {
@@ -30,21 +30,21 @@ constexpr const char* kExitCodes =
     "  3    the directory or a file cannot be used\n"
     "  130  ended by Ctrl+C";
 
-void addEverything(CLI::App& program, CommandLine& line) {
+void addEverything(CLI::App& program, TypedCommand& typed) {
   program.set_version_flag("--version", "glossmill-cli " GLOSSMILL_VERSION);
   program.set_help_flag("-h,--help", "Print this help");
   program.require_subcommand(1);
   program.get_formatter()->label("SUBCOMMAND", "COMMAND");
   program.footer("Examples:");
-  addLoudness(program, line);
-  addScanCommand(program, line);
-  addStatusCommand(program, line);
-  addCheckCommand(program, line);
-  addSaveCommand(program, line);
-  addExportCommand(program, line);
-  addImportCommand(program, line);
-  addFillCommand(program, line);
-  addAddLanguageCommand(program, line);
+  addLoudness(program, typed);
+  addScanCommand(program, typed);
+  addStatusCommand(program, typed);
+  addCheckCommand(program, typed);
+  addSaveCommand(program, typed);
+  addExportCommand(program, typed);
+  addImportCommand(program, typed);
+  addFillCommand(program, typed);
+  addAddLanguageCommand(program, typed);
   program.footer(program.get_footer() + kExitCodes);
 }
 
@@ -68,15 +68,15 @@ ExitCode explain(const CLI::App& program, const CLI::ParseError& problem, Consol
 
 ExitCode run(int count, const char* const* arguments, Console& console) {
   CLI::App program("Keeps the translations of an Xcode project complete.", "glossmill-cli");
-  CommandLine line;
-  addEverything(program, line);
+  TypedCommand typed;
+  addEverything(program, typed);
   try {
     program.parse(count, arguments);
   } catch (const CLI::ParseError& problem) {
     return explain(program, problem, console);
   }
-  console.setLoudness(line.loudness());
-  const ExitCode code = line.run(console);
+  console.setLoudness(typed.loudness());
+  const ExitCode code = typed.run(console);
   if (console.finish()) return code;
   console.error("cannot write to standard output");
   return ExitCode::Unusable;

@@ -1,7 +1,7 @@
 #include <QTest>
 
 #include "app/Commands.h"
-#include "desktop/CommandLine.h"
+#include "desktop/LaunchArguments.h"
 #include "desktop/TestClasses.h"
 #include "desktop/host/QtText.h"
 #include "desktop/look/Icons.h"
@@ -91,10 +91,10 @@ class TextsTest : public QObject {
     QVERIFY(icon(QStringLiteral("nothing")).isNull());
   }
 
-  void theCommandLineIsRead() {
+  void theArgumentsOfALaunchAreRead() {
     const auto read = [](std::vector<const char*> arguments) {
       arguments.insert(arguments.begin(), "glossmill");
-      return readCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2");
+      return readLaunchArguments(static_cast<int>(arguments.size()), arguments.data(), "1.2");
     };
     QVERIFY(!read({}).directory && read({}).answer.empty() && read({}).complaint.empty());
     QCOMPARE(read({"--version"}).answer, std::string("glossmill 1.2\n"));

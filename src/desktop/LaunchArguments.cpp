@@ -1,4 +1,4 @@
-#include "desktop/CommandLine.h"
+#include "desktop/LaunchArguments.h"
 
 #include <filesystem>
 #include <string_view>
@@ -34,26 +34,26 @@ bool isGiven(int argumentCount, const char* const* arguments, std::string_view o
 
 }  // namespace
 
-CommandLine readCommandLine(int argumentCount, const char* const* arguments, const std::string& version) {
-  CommandLine line;
+LaunchArguments readLaunchArguments(int argumentCount, const char* const* arguments, const std::string& version) {
+  LaunchArguments launch;
   if (isGiven(argumentCount, arguments, "--help") || isGiven(argumentCount, arguments, "-h")) {
-    line.answer = kUsage;
-    return line;
+    launch.answer = kUsage;
+    return launch;
   }
   if (isGiven(argumentCount, arguments, "--version")) {
-    line.answer = "glossmill " + version + "\n";
-    return line;
+    launch.answer = "glossmill " + version + "\n";
+    return launch;
   }
   const auto directory = directoryArgument(argumentCount, arguments);
-  if (!directory) return line;
+  if (!directory) return launch;
   std::error_code error;
   const std::filesystem::path path = std::filesystem::canonical(*directory, error);
   if (error || !std::filesystem::is_directory(path, error)) {
-    line.complaint = "glossmill: there is no directory " + std::string(*directory) + "\n";
-    return line;
+    launch.complaint = "glossmill: there is no directory " + std::string(*directory) + "\n";
+    return launch;
   }
-  line.directory = FileUrl(path.string());
-  return line;
+  launch.directory = FileUrl(path.string());
+  return launch;
 }
 
 }  // namespace glossmill

@@ -1,29 +1,29 @@
-#include "cli/CommandLine.h"
+#include "cli/TypedCommand.h"
 
 #include <CLI/CLI.hpp>
 #include <utility>
 
 namespace glossmill {
 
-Loudness CommandLine::loudness() const {
+Loudness TypedCommand::loudness() const {
   if (quiet) return Loudness::Quiet;
   return verbose ? Loudness::Verbose : Loudness::Normal;
 }
 
-CLI::App& addCommand(CLI::App& program, CommandLine& line, const CommandTexts& texts,
+CLI::App& addCommand(CLI::App& program, TypedCommand& typed, const CommandTexts& texts,
                      std::function<ExitCode(Console&)> run) {
   CLI::App& command = *program.add_subcommand(texts.name, texts.description);
   command.group("Commands");
   command.footer("Example:\n  glossmill-cli " + texts.name + " " + texts.example);
   program.footer(program.get_footer() + "\n  glossmill-cli " + texts.name + " " + texts.example);
-  command.final_callback([&line, action = std::move(run)] { line.run = action; });
-  addLoudness(command, line);
+  command.final_callback([&typed, action = std::move(run)] { typed.run = action; });
+  addLoudness(command, typed);
   return command;
 }
 
-void addLoudness(CLI::App& app, CommandLine& line) {
-  CLI::Option* quiet = app.add_flag("-q,--quiet", line.quiet, "Print no messages but errors");
-  app.add_flag("-v,--verbose", line.verbose, "Print the lines of the system log too")
+void addLoudness(CLI::App& app, TypedCommand& typed) {
+  CLI::Option* quiet = app.add_flag("-q,--quiet", typed.quiet, "Print no messages but errors");
+  app.add_flag("-v,--verbose", typed.verbose, "Print the lines of the system log too")
       ->excludes(quiet)
       ->option_text(" ");
   quiet->option_text(" ");

@@ -14,7 +14,7 @@ class App;
 namespace glossmill {
 
 /// What was typed: the command to run, and how loud it is to be.
-struct CommandLine {
+struct TypedCommand {
   bool quiet = false;
   bool verbose = false;
   std::function<ExitCode(Console&)> run;
@@ -29,12 +29,12 @@ struct CommandTexts {
   std::string example;  ///< what to type after the program's name
 };
 
-/// Adds a command with the options that every command has. It sets `line.run` when it was typed.
-CLI::App& addCommand(CLI::App& program, CommandLine& line, const CommandTexts& texts,
+/// Adds a command with the options that every command has. It sets `typed.run` when it was typed.
+CLI::App& addCommand(CLI::App& program, TypedCommand& typed, const CommandTexts& texts,
                      std::function<ExitCode(Console&)> run);
 
 /// Adds --quiet and --verbose.
-void addLoudness(CLI::App& app, CommandLine& line);
+void addLoudness(CLI::App& app, TypedCommand& typed);
 
 /// Adds the project directory, which every command needs.
 void addDirectory(CLI::App& command, std::string& directory);
