@@ -15,6 +15,7 @@
 #include "model/Language.h"
 #include "model/LocalizeString.h"
 #include "model/ProjectContext.h"
+#include "model/ProjectOptions.h"
 #include "model/ScanResult.h"
 #include "model/StatusTexts.h"
 #include "model/TranslationCounts.h"
@@ -84,7 +85,11 @@ class ProjectWindowController : public ProjectContext,
   void openProjectButton() { openProject(FileUrl()); }
   /// Closes the open project, asks for a directory, with the panel at `start` unless it is empty, and starts the scan.
   /// True when a scan was started.
-  bool openProject(const FileUrl& start);
+  bool openProject(const FileUrl& start, const ProjectOptions& options = {});
+  /// The same for a directory that is known, without the panel.
+  bool openProjectAt(const FileUrl& directory, const ProjectOptions& options = {});
+  /// By which rules, and how else, the project was opened.
+  const ProjectOptions& projectOptions() const { return m_options; }
   bool parseProject();
   /// The sheet's cancel button.
   void longTimeCanceled() { m_longTimeCanceled.set(true); }
@@ -190,6 +195,7 @@ class ProjectWindowController : public ProjectContext,
   void onMainThread(const std::function<void()>& work) { m_host.threads.performOnMainThreadAndWait(work); }
   void runOkAlert(const std::string& message);
 
+  void startScan(const FileUrl& directory, const ProjectOptions& options);
   void beginLongTimeSheet(std::string_view titleKey);
   void makeIndicatorIndeterminate();
   void makeIndicatorCounting();
@@ -246,6 +252,7 @@ class ProjectWindowController : public ProjectContext,
 
   std::optional<std::string> m_projectFileData;  ///< nothing until a project file was read
   FileUrl m_projectDirectory;
+  ProjectOptions m_options;
   std::optional<FileUrl> m_projectPackage;
   IsoTable m_iso639Dict;
   FileUrl m_actualParseFileName;

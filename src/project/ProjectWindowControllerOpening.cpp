@@ -2,7 +2,7 @@
 
 namespace glossmill {
 
-bool ProjectWindowController::openProject(const FileUrl& start) {
+bool ProjectWindowController::openProject(const FileUrl& start, const ProjectOptions& options) {
   if (!closeProject()) return false;
   OpenPanelRequest request;
   request.title = localized("Choose project directory...");
@@ -13,10 +13,21 @@ bool ProjectWindowController::openProject(const FileUrl& start) {
   request.directory = start;
   const std::optional<FileUrl> chosen = m_host.panels.runOpenPanel(request);
   if (!chosen) return false;
-  m_projectDirectory = *chosen;
+  startScan(*chosen, options);
+  return true;
+}
+
+bool ProjectWindowController::openProjectAt(const FileUrl& directory, const ProjectOptions& options) {
+  if (!closeProject()) return false;
+  startScan(directory, options);
+  return true;
+}
+
+void ProjectWindowController::startScan(const FileUrl& directory, const ProjectOptions& options) {
+  m_projectDirectory = directory;
+  m_options = options;
   parseProject();
   m_window.outlets.window->setTitle(m_projectDirectory.lastPathComponentWithoutExtension());
-  return true;
 }
 
 bool ProjectWindowController::parseProject() {

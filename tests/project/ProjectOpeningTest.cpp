@@ -62,6 +62,32 @@ TEST_F(ProjectOpening, ShowsNoPanelWhenTheChangedProjectIsToStayOpen) {
   EXPECT_TRUE(project().changed());
 }
 
+TEST_F(ProjectOpening, OpensADirectoryThatIsKnownWithoutThePanel) {
+  addProject();
+  EXPECT_TRUE(project().openProjectAt(FileUrl("/P/Harbour.app")));
+  EXPECT_EQ(window().window.title, "Harbour");
+  EXPECT_TRUE(sheetIsUp());
+  host.runUntilIdle();
+  EXPECT_TRUE(host.panels.openPanels.empty());
+  EXPECT_TRUE(project().opened());
+  EXPECT_EQ(keys(), (Lines{"Open", "Close"}));
+  EXPECT_EQ(application.recentArray(), Lines{"/P/Harbour.app"});
+}
+
+TEST_F(ProjectOpening, AsksBeforeAChangedProjectGivesWayToAKnownDirectory) {
+  addProject();
+  open();
+  project().setChanged(true);
+  host.panels.willAnswer(AlertAnswer::Other);
+  EXPECT_FALSE(project().openProjectAt(FileUrl("/P/Other")));
+  EXPECT_EQ(project().projectDirectory(), FileUrl("/P/Harbour.app"));
+  EXPECT_EQ(keys(), (Lines{"Open", "Close"}));
+  host.panels.willAnswer(AlertAnswer::Alternate);
+  EXPECT_TRUE(project().openProjectAt(FileUrl("/P/Other")));
+  expectNothingOpen();
+  host.runUntilIdle();
+}
+
 TEST_F(ProjectOpening, ShowsTheTitleAndAnAnimatedSheetAsSoonAsTheScanStarts) {
   addProject();
   EXPECT_TRUE(begin());
