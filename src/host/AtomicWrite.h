@@ -1,15 +1,10 @@
 #pragma once
 
-#include <functional>
-#include <string_view>
-
+#include "platform/BytePieces.h"
 #include "platform/FileUrl.h"
 #include "text/Result.h"
 
 namespace glossmill {
-
-/// Gives what is to be written piece by piece, each valid until the next is asked for; the empty piece is the end.
-using BytePieces = std::function<Result<std::string_view>()>;
 
 /// Puts what `next` gives in the place of the file, whole or not at all: written to a temporary file beside it, flushed
 /// to the disk, renamed. Links are followed to the file that is really meant, which need not exist yet. Permissions

@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <cctype>
 
+#include "text/PercentForm.h"
+
 namespace glossmill {
 
 namespace {
 
 constexpr std::string_view kScheme = "file://";
-constexpr std::string_view kHexDigits = "0123456789ABCDEF";
 
 bool isAlphanumeric(char byte) {
   return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') || (byte >= '0' && byte <= '9');
@@ -66,19 +67,7 @@ const std::string& FileUrl::path() const {
 }
 
 std::string FileUrl::text() const {
-  if (empty()) return {};
-  std::string text(kScheme);
-  for (const char byte : path()) {
-    if (standsAsItIs(byte)) {
-      text.push_back(byte);
-      continue;
-    }
-    const auto value = static_cast<unsigned char>(byte);
-    text.push_back('%');
-    text.push_back(kHexDigits[value >> 4]);
-    text.push_back(kHexDigits[value & 0xF]);
-  }
-  return text;
+  return empty() ? std::string() : std::string(kScheme) + percentForm(path());
 }
 
 std::string_view FileUrl::lastPathComponent() const {

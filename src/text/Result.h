@@ -6,9 +6,16 @@
 
 namespace glossmill {
 
+/// What a caller may want to treat in a way of its own.
+enum class ErrorKind {
+  Other,
+  Outside,  ///< it lies where it must not be touched
+};
+
 /// Why something could not be done: one sentence for a person, without a final line feed.
 struct Error {
   std::string sentence;
+  ErrorKind kind = ErrorKind::Other;
 };
 
 /// A value, or the error that stands in its place.

@@ -131,6 +131,11 @@ std::optional<std::string> InMemoryFiles::bytesOf(std::string_view path) {
   return node->bytes;
 }
 
+std::string InMemoryFiles::whereLinksLead(std::string_view path) {
+  const std::lock_guard lock(m_mutex);
+  return resolved(path);
+}
+
 void InMemoryFiles::failListing(std::string_view path, std::string_view sentence) {
   const std::lock_guard lock(m_mutex);
   m_listFailures[std::string(path)] = sentence;

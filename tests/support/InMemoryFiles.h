@@ -31,6 +31,8 @@ class InMemoryFiles : public Files {
   bool exists(std::string_view path);
   /// Nothing when it is no file.
   std::optional<std::string> bytesOf(std::string_view path);
+  /// The path without links; what does not exist keeps its name.
+  std::string whereLinksLead(std::string_view path);
 
   // ---- What is to fail from now on, with this sentence as the error ----
 

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/BytePieces.h"
+#include "platform/Files.h"
+#include "text/ContentHash.h"
+#include "text/Result.h"
+
+namespace glossmill {
+
+/// The bytes of a file as they are read; opened when the first piece is asked for. `files` outlives the pieces.
+BytePieces contentOf(Files& files, const FileUrl& file);
+
+/// The bytes of an open reader.
+BytePieces contentOf(std::shared_ptr<ByteReader> reader);
+
+Result<ContentHash> hashOfContent(const BytePieces& pieces);
+
+/// Compares two files byte for byte.
+Result<bool> haveSameContent(Files& files, const FileUrl& one, const FileUrl& other);
+
+}  // namespace glossmill

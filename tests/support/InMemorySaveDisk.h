@@ -1,0 +1,78 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/SaveDisk.h"
+#include "support/InMemoryFiles.h"
+
+namespace glossmill {
+
+/// Saving on the disk in memory. Each operation that changes the disk is noted, can fail, and can be the last one that
+/// the process does.
+class InMemorySaveDisk : public SaveDisk {
+ public:
+  /// Thrown in the place of a kill: nobody tidies up after it.
+  struct Killed {};
+
+  /// `files` outlives this.
+  explicit InMemorySaveDisk(InMemoryFiles& files) : m_files(files) {}
+
+  // ---- What is to happen ----
+
+  /// The operation with this number, from 1, fails with the sentence.
+  void failAt(int operation, std::string_view sentence = "The disk is broken.") { m_failure = {operation, sentence}; }
+  void killBefore(int operation) { m_killed = operation; }
+  /// The process that was killed is gone, and another one goes on.
+  void goOn();
+  void setStateDirectory(std::optional<FileUrl> directory) { m_stateDirectory = std::move(directory); }
+
+  // ---- What was done ----
+
+  /// "prepare /x", "rename /x", "mkdir /x", "remove /x", "keep /x", in order.
+  const std::vector<std::string>& operations() const { return m_operations; }
+  bool holdsLock() const { return m_lockHeld; }
+
+  // ---- The disk itself ----
+
+  Result<FileUrl> resolve(const FileUrl& url) override;
+  Result<std::optional<FileStamp>> stampOf(const FileUrl& file) override;
+  Result<std::unique_ptr<PreparedWrite>> prepare(const FileUrl& file, const BytePieces& bytes,
+                                                 const WriteLimits& limits) override;
+  Outcome createDirectory(const FileUrl& directory, bool intermediate, const WriteLimits& limits) override;
+  std::vector<FileUrl> abandonedWrites(const FileUrl& directory) override;
+  Outcome rename(const FileUrl& from, const FileUrl& to) override;
+  Outcome remove(const FileUrl& url) override;
+  Result<FileUrl> stateDirectory() override;
+  Outcome createPrivateDirectory(const FileUrl& directory) override;
+  Outcome writePrivate(const FileUrl& file, const BytePieces& bytes) override;
+  Result<std::unique_ptr<DirectoryLock>> tryLock(const FileUrl& directory) override;
+  std::int64_t processId() const override { return 7; }
+
+ private:
+  friend class InMemoryWrite;
+  friend class InMemoryLock;
+
+  struct Failure {
+    int operation = 0;
+    std::string_view sentence;
+  };
+
+  Outcome begin(const std::string& operation);
+  Outcome within(const FileUrl& url, const WriteLimits& limits) const;
+
+  InMemoryFiles& m_files;
+  std::optional<FileUrl> m_stateDirectory = FileUrl("/state/glossmill");
+  std::vector<std::string> m_operations;
+  std::vector<FileUrl> m_temporaries;
+  int m_done = 0;
+  int m_killed = 0;
+  bool m_isDead = false;
+  Failure m_failure;
+  bool m_lockHeld = false;
+  int m_written = 0;
+};
+
+}  // namespace glossmill
