@@ -18,6 +18,7 @@
 #include "host/OpenedDirectory.h"
 #include "host/PreparedFile.h"
 #include "host/SystemError.h"
+#include "host/WriteAll.h"
 
 namespace glossmill {
 
@@ -49,6 +50,20 @@ std::string realPath(const FileUrl& url) {
   const std::unique_ptr<char, Freed> path(realpath(url.path().c_str(), nullptr));
   return path ? path.get() : "";
 }
+
+class PosixGrowingFile : public GrowingFile {
+ public:
+  explicit PosixGrowingFile(FileDescriptor file) : m_file(std::move(file)) {}
+
+  Outcome append(std::string_view bytes) override {
+    const Outcome written = writeAll(m_file.number(), bytes);
+    if (!written) return written;
+    return fsync(m_file.number()) == 0 ? Outcome(Done{}) : systemError(errno);
+  }
+
+ private:
+  FileDescriptor m_file;
+};
 
 class PosixLock : public DirectoryLock {
  public:
@@ -153,6 +168,14 @@ Outcome PosixSaveDisk::createPrivateDirectory(const FileUrl& directory) {
 Outcome PosixSaveDisk::writePrivate(const FileUrl& file, const BytePieces& bytes) {
   const Result<std::unique_ptr<PreparedWrite>> prepared = prepareFile(file, bytes, {{}, kOwnerOnlyFile});
   return prepared ? prepared.value()->putInPlace() : Outcome(prepared.error());
+}
+
+Result<std::unique_ptr<GrowingFile>> PosixSaveDisk::openGrowing(const FileUrl& file) {
+  const Outcome made = createPrivateDirectory(file.parent());
+  if (!made) return made.error();
+  FileDescriptor opened(::open(file.path().c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, kOwnerOnlyFile));
+  if (!opened) return systemError(errno);
+  return std::unique_ptr<GrowingFile>(std::make_unique<PosixGrowingFile>(std::move(opened)));
 }
 
 Result<std::unique_ptr<DirectoryLock>> PosixSaveDisk::tryLock(const FileUrl& directory) {

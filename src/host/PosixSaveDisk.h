@@ -21,6 +21,7 @@ class PosixSaveDisk : public SaveDisk {
   Result<FileUrl> stateDirectory() override;
   Outcome createPrivateDirectory(const FileUrl& directory) override;
   Outcome writePrivate(const FileUrl& file, const BytePieces& bytes) override;
+  Result<std::unique_ptr<GrowingFile>> openGrowing(const FileUrl& file) override;
   Result<std::unique_ptr<DirectoryLock>> tryLock(const FileUrl& directory) override;
   std::int64_t processId() const override;
 

@@ -18,6 +18,7 @@
 #include "host/FileStamps.h"
 #include "host/OpenedDirectory.h"
 #include "host/SystemError.h"
+#include "host/WriteAll.h"
 
 namespace glossmill {
 
@@ -69,7 +70,6 @@ class PreparedFile : public PreparedWrite {
   Outcome putInPlace() override;
 
  private:
-  Outcome write(std::string_view bytes);
   bool takePermissions();
   std::string formerPath() const;
 
@@ -126,25 +126,12 @@ std::string PreparedFile::formerPath() const {
 #endif
 }
 
-Outcome PreparedFile::write(std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = ::write(m_file.number(), bytes.data(), bytes.size());
-    if (written == 0) return systemError(EIO);
-    if (written > 0) {
-      bytes.remove_prefix(static_cast<std::size_t>(written));
-    } else if (errno != EINTR) {
-      return systemError(errno);
-    }
-  }
-  return Done{};
-}
-
 Outcome PreparedFile::writeAll(const BytePieces& next) {
   while (true) {
     const Result<std::string_view> piece = next();
     if (!piece) return piece.error();
     if (piece.value().empty()) return Done{};
-    const Outcome written = write(piece.value());
+    const Outcome written = glossmill::writeAll(m_file.number(), piece.value());
     if (!written) return written;
   }
 }

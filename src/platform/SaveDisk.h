@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/BytePieces.h"
@@ -41,7 +41,15 @@ class DirectoryLock {
   virtual ~DirectoryLock() = default;
 };
 
-/// What saving needs of a disk beyond reading it. Called from the main thread.
+/// A private file that grows at its end. One thread at a time.
+class GrowingFile {
+ public:
+  virtual ~GrowingFile() = default;
+  /// Appends the bytes and flushes them to the disk.
+  virtual Outcome append(std::string_view bytes) = 0;
+};
+
+/// What saving needs of a disk beyond reading it. Called from the main thread, but for what the journal needs.
 class SaveDisk {
  public:
   virtual ~SaveDisk() = default;
@@ -68,8 +76,11 @@ class SaveDisk {
   virtual Result<FileUrl> stateDirectory() = 0;
   /// Creates a directory for the owner's eyes only, and those above it.
   virtual Outcome createPrivateDirectory(const FileUrl& directory) = 0;
-  /// Writes a file for the owner's eyes only, whole or not at all.
+  /// Writes a file for the owner's eyes only, whole or not at all. Any thread.
   virtual Outcome writePrivate(const FileUrl& file, const BytePieces& bytes) = 0;
+  /// Opens a file for the owner's eyes only to append to it, making it and its directory where there is none. Any
+  /// thread.
+  virtual Result<std::unique_ptr<GrowingFile>> openGrowing(const FileUrl& file) = 0;
 
   /// Nothing while somebody else holds it.
   virtual Result<std::unique_ptr<DirectoryLock>> tryLock(const FileUrl& directory) = 0;

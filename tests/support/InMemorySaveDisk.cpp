@@ -43,6 +43,20 @@ class InMemoryWrite : public PreparedWrite {
   bool m_exists = true;
 };
 
+class InMemoryGrowingFile : public GrowingFile {
+ public:
+  InMemoryGrowingFile(InMemoryFiles& files, FileUrl file) : m_files(files), m_file(std::move(file)) {}
+
+  Outcome append(std::string_view bytes) override {
+    m_files.addFile(m_file.path(), m_files.bytesOf(m_file.path()).value_or("").append(bytes));
+    return Done{};
+  }
+
+ private:
+  InMemoryFiles& m_files;
+  FileUrl m_file;
+};
+
 class InMemoryLock : public DirectoryLock {
  public:
   explicit InMemoryLock(InMemorySaveDisk& disk) : m_disk(disk) { m_disk.m_lockHeld = true; }
@@ -155,6 +169,11 @@ Outcome InMemorySaveDisk::writePrivate(const FileUrl& file, const BytePieces& by
   if (!text) return text.error();
   m_files.addFile(file.path(), text.value());
   return Done{};
+}
+
+Result<std::unique_ptr<GrowingFile>> InMemorySaveDisk::openGrowing(const FileUrl& file) {
+  if (!m_stateDirectory) return Error{"There is no state directory."};
+  return std::unique_ptr<GrowingFile>(std::make_unique<InMemoryGrowingFile>(m_files, file));
 }
 
 Result<std::unique_ptr<DirectoryLock>> InMemorySaveDisk::tryLock(const FileUrl&) {

@@ -48,6 +48,7 @@ class InMemorySaveDisk : public SaveDisk {
   Result<FileUrl> stateDirectory() override;
   Outcome createPrivateDirectory(const FileUrl& directory) override;
   Outcome writePrivate(const FileUrl& file, const BytePieces& bytes) override;
+  Result<std::unique_ptr<GrowingFile>> openGrowing(const FileUrl& file) override;
   Result<std::unique_ptr<DirectoryLock>> tryLock(const FileUrl& directory) override;
   std::int64_t processId() const override { return 7; }
 
