@@ -3,7 +3,7 @@
 #include <string>
 
 #include "app/AppDelegate.h"
-#include "support/TestHost.h"
+#include "support/RecordingHost.h"
 
 namespace glossmill {
 namespace {
@@ -63,6 +63,22 @@ TEST_F(IsoTableLoading, TellsOfATableThatIsNotAscii) {
   EXPECT_EQ(application->projectWindowController()->iso639Dict().all().size(), 0U);
   EXPECT_EQ(logText(), "<Error reading ISO file from bundle>\n");
   EXPECT_EQ(host.systemLog.lines().size(), 1U);
+}
+
+TEST(IsoTableLoadingOrder, WritesTheDiagnosticBeforeTheMessageAndObservesBeforeBoth) {
+  RecordingHost recording;
+  OtherTable bundle(Error{"No such resource."});
+  RecordingServices services(recording.calls);
+  ProjectWindowController project(recording.partsWith(bundle), services);
+  project.showWindow();
+  const Lines expected = {
+      "interface files: load ProjectWindowController",
+      "notifications: add an observer of GlossmillTranslationChanged",
+      "system log: Error reading ISO file: No such resource.",
+      "log: <Error reading ISO file from bundle>",
+      "project window: show",
+  };
+  EXPECT_TRUE(sameLines(recording.calls.lines(), expected));
 }
 
 TEST_F(IsoTableLoading, LeavesLanguagesWithoutATableTheirDirectoryNames) {

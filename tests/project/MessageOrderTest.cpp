@@ -19,9 +19,8 @@ class MessageOrder : public testing::Test {
 
   RecordedProject harbour;
   CallRecorder& calls = harbour.calls;
+  const std::string german = RecordedProject::stringsFile("de");
 };
-
-const std::string kGermanFile = RecordedProject::inProject("de.lproj/Localizable.strings");
 
 TEST_F(MessageOrder, OfASourceThatCannotBeRead) {
   addSource();
@@ -62,7 +61,7 @@ TEST_F(MessageOrder, OfAMissingStringsFile) {
 
 TEST_F(MessageOrder, OfAStringsFileThatCannotBeRead) {
   addGerman("");
-  harbour.disk().failOpening(kGermanFile, "No.");
+  harbour.disk().failOpening(german, "No.");
   const Lines expected = {
       "log: Found Localizable.strings for Language: German",
       "system log: Parsing file: file:///P/Harbour.app/de.lproj/Localizable.strings",
@@ -98,8 +97,7 @@ TEST_F(MessageOrder, NamesAStringsFileBeforeItIsReadAndItsLinesAfterwards) {
       "files: read /P/Harbour.app/de.lproj/Localizable.strings",
       "system log: Lines: 1",
   };
-  EXPECT_TRUE(
-      sameLines(calls.linesOf({"system log:", "files: open " + kGermanFile, "files: read " + kGermanFile}), expected));
+  EXPECT_TRUE(sameLines(calls.linesOf({"system log:", "files: open " + german, "files: read " + german}), expected));
 }
 
 TEST_F(MessageOrder, TellsOfAStringsFileBeforeTheLanguageHasIt) {
@@ -113,7 +111,7 @@ TEST_F(MessageOrder, TellsOfAStringsFileBeforeTheLanguageHasIt) {
   harbour.open();
   EXPECT_EQ(url, RecordedProject::inProject("de.lproj"));
   EXPECT_EQ(depth, 2);
-  EXPECT_EQ(harbour.language(0)->localizedStringUrl().path(), kGermanFile);
+  EXPECT_EQ(harbour.language(0)->localizedStringUrl().path(), german);
 }
 
 TEST_F(MessageOrder, TellsOfAnOldNameBeforeThereIsALanguage) {

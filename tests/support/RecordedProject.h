@@ -31,6 +31,9 @@ class RecordedProject {
   void addFile(std::string_view path, std::string_view bytes = {}) { disk().addFile(inProject(path), bytes); }
   void addDirectory(std::string_view path) { disk().addDirectory(inProject(path)); }
   static std::string inProject(std::string_view path) { return std::string(kDirectory) + "/" + std::string(path); }
+  static std::string stringsFile(std::string_view code) {
+    return inProject(std::string(code) + ".lproj/Localizable.strings");
+  }
   InMemoryFiles& disk() { return recording.host.files; }
 
   // ---- What a user does ----
