@@ -4,10 +4,10 @@
 
 namespace glossmill {
 
-Color StatusToTextColorTransformer::transformedValue(const std::optional<std::string>& status) const {
-  if (status == m_texts.incompleteString) return kRedColor;
-  if (status == m_texts.automaticString) return kGreenColor;
-  if (status == m_texts.ignoredString) return kBlueColor;
+Color StatusToTextColorTransformer::transformedValue(std::optional<Status> status) {
+  if (status == Status::Incomplete) return kRedColor;
+  if (status == Status::Automatic) return kGreenColor;
+  if (status == Status::Ignored) return kBlueColor;
   return kBlackColor;
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "model/StatusTexts.h"
+#include "model/Status.h"
 
 namespace glossmill {
 
@@ -25,16 +25,12 @@ inline constexpr Color kBlackColor{0, 0, 0};
 // One-way transformers of model values into what tables and labels show. The declared result classes differ from what
 // they really give; they are kept as they were declared.
 
-/// Status text to colour.
+/// Status to colour.
 class StatusToTextColorTransformer {
  public:
-  explicit StatusToTextColorTransformer(const StatusTexts& texts) : m_texts(texts) {}
   static bool allowsReverseTransformation() { return false; }
   static std::string_view transformedValueClass() { return "NSString"; }
-  Color transformedValue(const std::optional<std::string>& status) const;
-
- private:
-  const StatusTexts& m_texts;
+  static Color transformedValue(std::optional<Status> status);
 };
 
 /// Size of a list to a label.

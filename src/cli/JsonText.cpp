@@ -56,7 +56,7 @@ Json languageJson(const ProjectSession& session, const Language& language) {
           {"path", jsonPath(session, language.localizedStringUrl())},
           {"urlDepth", language.urlDepth()},
           {"missing", project.missingTranslations(language)},
-          {"status", project.languageStatus(language)}};
+          {"status", project.statusTexts().textOf(project.languageStatus(language))}};
 }
 
 }  // namespace glossmill

@@ -3,6 +3,7 @@
 #include "cli/DisplayText.h"
 #include "cli/Paths.h"
 #include "cli/TextTable.h"
+#include "model/PercentDone.h"
 
 namespace glossmill {
 
@@ -18,11 +19,7 @@ struct Counts {
   Paint paint() const { return missing == 0 ? Paint::Good : Paint::Gap; }
   Cell translatedCell() const { return {std::to_string(translated)}; }
   Cell missingCell() const { return {std::to_string(missing), paint()}; }
-  /// 100% is for what is complete only.
-  Cell percentCell() const {
-    const std::size_t all = translated + missing;
-    return {std::to_string(all == 0 ? 100 : 100 * translated / all) + "%", paint()};
-  }
+  Cell percentCell() const { return {std::to_string(percentDone(translated + missing, missing)) + "%", paint()}; }
 };
 
 std::string stringsFileText(const ProjectSession& session, const Language& language) {

@@ -23,7 +23,7 @@ Json stringJson(const ProjectSession& session, const LocalizeString& record) {
           {"comments", record.commentArray()},
           {"files", std::move(files)},
           {"translations", std::move(translations)},
-          {"status", record.status(project.statusTexts(), &project)},
+          {"status", project.statusTexts().textOf(record.status(&project))},
           {"statusString", record.statusString(project.statusTexts(), &project)}};
 }
 

@@ -1,6 +1,6 @@
 #include "dialogs/LanguageWindowController.h"
 
-#include "model/LocalizeString.h"
+#include "model/StatusTexts.h"
 
 namespace glossmill {
 
@@ -23,7 +23,7 @@ void LanguageWindowController::windowDidLoad() {
 }
 
 std::string LanguageWindowController::languageStatus() const {
-  return LocalizeString::incompleteString(m_host.bundle);
+  return StatusTexts(m_host.bundle).textOf(Status::Incomplete);
 }
 
 void LanguageWindowController::doubleClickTableView() {

@@ -2,8 +2,8 @@
 
 namespace glossmill {
 
-const std::string& Language::status(const StatusTexts& texts, const ProjectContext* project) const {
-  return project ? project->languageStatus(*this) : texts.incompleteString;
+Status Language::status(const ProjectContext* project) const {
+  return project ? project->languageStatus(*this) : Status::Incomplete;
 }
 
 std::string Language::statusString(const StatusTexts& texts, const ProjectContext* project) const {

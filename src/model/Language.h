@@ -9,6 +9,7 @@
 
 #include "model/LanguageCode.h"
 #include "model/ProjectContext.h"
+#include "model/Status.h"
 #include "model/StatusTexts.h"
 #include "platform/FileUrl.h"
 
@@ -44,7 +45,7 @@ class Language {
   void setUrlDepth(std::int64_t depth) { m_urlDepth = depth; }
 
   /// Asked of the project; without one, Incomplete.
-  const std::string& status(const StatusTexts& texts, const ProjectContext* project) const;
+  Status status(const ProjectContext* project) const;
   std::string statusString(const StatusTexts& texts, const ProjectContext* project) const;
 
  private:

@@ -30,26 +30,10 @@ std::string LocalizeString::comment() const {
   return joined;
 }
 
-std::string LocalizeString::incompleteString(const Bundle& bundle) {
-  return bundle.localizedString("Incomplete");
-}
-
-std::string LocalizeString::completeString(const Bundle& bundle) {
-  return bundle.localizedString("Complete");
-}
-
-std::string LocalizeString::automaticString(const Bundle& bundle) {
-  return bundle.localizedString("Automatic");
-}
-
-std::string LocalizeString::ignoredString(const Bundle& bundle) {
-  return bundle.localizedString("Ignored");
-}
-
-const std::string& LocalizeString::status(const StatusTexts& texts, const ProjectContext* project) const {
-  if (!project) return texts.incompleteString;
+Status LocalizeString::status(const ProjectContext* project) const {
+  if (!project) return Status::Incomplete;
   const auto count = static_cast<std::int64_t>(m_languagesDict.count());
-  return project->totalLanguages() == count ? texts.completeString : texts.incompleteString;
+  return project->totalLanguages() == count ? Status::Complete : Status::Incomplete;
 }
 
 std::string LocalizeString::statusString(const StatusTexts& texts, const ProjectContext* project) const {

@@ -8,6 +8,7 @@
 
 #include "model/LanguagesDict.h"
 #include "model/ProjectContext.h"
+#include "model/Status.h"
 #include "model/StatusTexts.h"
 #include "platform/FileUrl.h"
 
@@ -42,14 +43,9 @@ class LocalizeString {
   /// The comments, joined by single line feeds; an empty comment at the front gives no leading line feed.
   std::string comment() const;
 
-  static std::string incompleteString(const Bundle& bundle);
-  static std::string completeString(const Bundle& bundle);
-  static std::string automaticString(const Bundle& bundle);
-  static std::string ignoredString(const Bundle& bundle);
-
   /// Complete when there are exactly as many translations as the project has languages; without a project, Incomplete.
-  const std::string& status(const StatusTexts& texts, const ProjectContext* project) const;
-  /// The same, but with the count of what is missing, which is negative when there are too many.
+  Status status(const ProjectContext* project) const;
+  /// The same as a text, but with the count of what is missing, which is negative when there are too many.
   std::string statusString(const StatusTexts& texts, const ProjectContext* project) const;
 
   /// The translation of the project's selected record in its selected language: the selection counts, not this record.

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "model/LanguageCode.h"
+#include "model/Status.h"
 
 namespace glossmill {
 
@@ -23,7 +24,7 @@ class ProjectContext {
   /// The first selected record and language; null when nothing is selected.
   virtual std::shared_ptr<LocalizeString> selectedString() const = 0;
   virtual std::shared_ptr<Language> selectedLanguage() const = 0;
-  virtual const std::string& languageStatus(const Language& language) const = 0;
+  virtual Status languageStatus(const Language& language) const = 0;
   virtual std::string languageStatusString(const Language& language) const = 0;
   virtual NotificationCenter& notifications() const = 0;
   /// The selected record has got (+1) or lost (-1) its entry for this language; called before the notification.

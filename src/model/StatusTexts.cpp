@@ -11,6 +11,20 @@ StatusTexts::StatusTexts(const Bundle& bundle)
       ignoredString(bundle.localizedString("Ignored")),
       m_missingFormat(bundle.localizedString("%ld missing")) {}
 
+const std::string& StatusTexts::textOf(Status status) const {
+  switch (status) {
+    case Status::Complete:
+      return completeString;
+    case Status::Automatic:
+      return automaticString;
+    case Status::Ignored:
+      return ignoredString;
+    case Status::Incomplete:
+      break;
+  }
+  return incompleteString;
+}
+
 std::string StatusTexts::missingString(std::int64_t count) const {
   return formatText(m_missingFormat, {count});
 }

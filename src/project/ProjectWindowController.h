@@ -118,7 +118,7 @@ class ProjectWindowController : public ProjectContext,
   std::shared_ptr<LocalizeString> selectedString() const override;
   std::shared_ptr<Language> selectedLanguage() const override;
   /// Counts the records of stringList() only; those that the filter holds back are complete.
-  const std::string& languageStatus(const Language& language) const override;
+  Status languageStatus(const Language& language) const override;
   std::string languageStatusString(const Language& language) const override;
   /// How many records of stringList() have no translation in this language.
   std::size_t missingTranslations(const Language& language) const;

@@ -21,9 +21,7 @@ void ProjectWindowController::changeStringFilter() {
 }
 
 void ProjectWindowController::holdBackCompleteStrings() {
-  const auto isComplete = [this](const LocalizeString& record) {
-    return record.status(m_statusTexts, this) == m_statusTexts.completeString;
-  };
+  const auto isComplete = [this](const LocalizeString& record) { return record.status(this) == Status::Complete; };
   for (const std::shared_ptr<LocalizeString>& record : stringList()) {
     if (isComplete(*record)) m_filteredStringList.push_back(record);
   }
@@ -55,8 +53,8 @@ std::size_t ProjectWindowController::missingTranslations(const Language& languag
   return m_counts.missing(language.code(), stringList());
 }
 
-const std::string& ProjectWindowController::languageStatus(const Language& language) const {
-  return missingTranslations(language) == 0 ? m_statusTexts.completeString : m_statusTexts.incompleteString;
+Status ProjectWindowController::languageStatus(const Language& language) const {
+  return missingTranslations(language) == 0 ? Status::Complete : Status::Incomplete;
 }
 
 std::string ProjectWindowController::languageStatusString(const Language& language) const {

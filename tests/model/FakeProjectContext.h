@@ -34,9 +34,8 @@ class FakeProjectContext : public ProjectContext {
   std::int64_t totalLanguages() const override { return m_totalLanguages; }
   std::shared_ptr<LocalizeString> selectedString() const override { return m_selectedString; }
   std::shared_ptr<Language> selectedLanguage() const override { return m_selectedLanguage; }
-  const std::string& languageStatus(const Language& language) const override {
-    m_answer = "status of " + language.iso639();
-    return m_answer;
+  Status languageStatus(const Language& language) const override {
+    return language.iso639() == "de" ? Status::Complete : Status::Incomplete;
   }
   std::string languageStatusString(const Language& language) const override {
     return "status text of " + language.iso639();
@@ -51,7 +50,6 @@ class FakeProjectContext : public ProjectContext {
   std::shared_ptr<LocalizeString> m_selectedString;
   std::shared_ptr<Language> m_selectedLanguage;
   std::vector<CountChange> m_countChanges;
-  mutable std::string m_answer;
   mutable FakeNotificationCenter m_center;
 };
 

@@ -81,20 +81,17 @@ TEST(Language, IsIndependentOfItsCopy) {
 TEST(Language, AsksTheProjectForItsStatus) {
   const StatusTexts texts{FakeBundle()};
   const FakeProjectContext project(2);
-  EXPECT_EQ(german().status(texts, &project), "status of de");
+  Language french;
+  french.setIso639("fr");
+  EXPECT_EQ(german().status(&project), Status::Complete);
+  EXPECT_EQ(french.status(&project), Status::Incomplete);
   EXPECT_EQ(german().statusString(texts, &project), "status text of de");
 }
 
 TEST(Language, IsIncompleteWithoutAProject) {
-  const StatusTexts texts{FakeBundle()};
-  EXPECT_EQ(german().status(texts, nullptr), "Incomplete");
-  EXPECT_EQ(german().statusString(texts, nullptr), "Incomplete");
-}
-
-TEST(Language, IsIncompleteInTheLanguageOfTheUser) {
-  const StatusTexts texts{germanBundle()};
-  EXPECT_EQ(german().status(texts, nullptr), "Unvollständig");
-  EXPECT_EQ(german().statusString(texts, nullptr), "Unvollständig");
+  EXPECT_EQ(german().status(nullptr), Status::Incomplete);
+  EXPECT_EQ(german().statusString(StatusTexts(FakeBundle()), nullptr), "Incomplete");
+  EXPECT_EQ(german().statusString(StatusTexts(germanBundle()), nullptr), "Unvollständig");
 }
 
 }  // namespace

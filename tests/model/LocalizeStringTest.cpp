@@ -4,7 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "model/FakeBundle.h"
 #include "model/LocalizeString.h"
 #include "support/LanguageCodes.h"
 
@@ -84,22 +83,6 @@ TEST(LocalizeString, KeepsTheLineFeedOfALaterEmptyComment) {
 
 TEST(LocalizeString, JoinsCommentsThatLookLikeFormats) {
   EXPECT_EQ(commented({"%@", "100%% of %ld"}).comment(), "%@\n100%% of %ld");
-}
-
-TEST(LocalizeString, NamesTheStatusesByTheirKeysWithoutATranslation) {
-  const FakeBundle bundle;
-  EXPECT_EQ(LocalizeString::incompleteString(bundle), "Incomplete");
-  EXPECT_EQ(LocalizeString::completeString(bundle), "Complete");
-  EXPECT_EQ(LocalizeString::automaticString(bundle), "Automatic");
-  EXPECT_EQ(LocalizeString::ignoredString(bundle), "Ignored");
-}
-
-TEST(LocalizeString, NamesTheStatusesInTheLanguageOfTheUser) {
-  const FakeBundle bundle = germanBundle();
-  EXPECT_EQ(LocalizeString::incompleteString(bundle), "Unvollständig");
-  EXPECT_EQ(LocalizeString::completeString(bundle), "Vollständig");
-  EXPECT_EQ(LocalizeString::automaticString(bundle), "Automatisch");
-  EXPECT_EQ(LocalizeString::ignoredString(bundle), "Ignoriert");
 }
 
 }  // namespace

@@ -23,6 +23,14 @@ TEST(StatusTexts, AreInTheLanguageOfTheUser) {
   EXPECT_EQ(texts.ignoredString, "Ignoriert");
 }
 
+TEST(StatusTexts, BelongToTheStatuses) {
+  const StatusTexts texts{FakeBundle()};
+  EXPECT_EQ(texts.textOf(Status::Incomplete), "Incomplete");
+  EXPECT_EQ(texts.textOf(Status::Complete), "Complete");
+  EXPECT_EQ(texts.textOf(Status::Automatic), "Automatic");
+  EXPECT_EQ(texts.textOf(Status::Ignored), "Ignored");
+}
+
 TEST(StatusTexts, FillTheTranslatedCountOfWhatIsMissing) {
   EXPECT_EQ(StatusTexts{germanBundle()}.missingString(12), "Es fehlen 12");
 }

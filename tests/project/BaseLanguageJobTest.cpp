@@ -38,8 +38,8 @@ TEST_F(BaseLanguageJob, GivesStringsWithoutAnEntryTheirKeysAsTranslations) {
   fill();
   EXPECT_EQ(m_test.translation("Cut", "fr"), "Cut");
   EXPECT_EQ(m_test.translation("Done", "fr"), "Done");
-  EXPECT_EQ(m_test.record("Cut")->status(m_test.project().statusTexts(), &m_test.project()), "Complete");
-  EXPECT_EQ(m_test.project().languageStatus(*m_test.language("fr")), "Complete");
+  EXPECT_EQ(m_test.record("Cut")->status(&m_test.project()), Status::Complete);
+  EXPECT_EQ(m_test.project().languageStatus(*m_test.language("fr")), Status::Complete);
   expectEnded();
 }
 

@@ -15,7 +15,7 @@ class LanguageStatus : public testing::Test {
     m_test.open();
   }
 
-  std::string status(std::string_view code) { return m_test.project().languageStatus(*m_test.language(code)); }
+  Status status(std::string_view code) { return m_test.project().languageStatus(*m_test.language(code)); }
   std::string statusString(std::string_view code) {
     return m_test.project().languageStatusString(*m_test.language(code));
   }
@@ -24,12 +24,12 @@ class LanguageStatus : public testing::Test {
 };
 
 TEST_F(LanguageStatus, IsCompleteWhenEveryStringIsTranslated) {
-  EXPECT_EQ(status("de"), "Complete");
+  EXPECT_EQ(status("de"), Status::Complete);
   EXPECT_EQ(statusString("de"), "Complete");
 }
 
 TEST_F(LanguageStatus, TellsHowManyAreMissing) {
-  EXPECT_EQ(status("fr"), "Incomplete");
+  EXPECT_EQ(status("fr"), Status::Incomplete);
   EXPECT_EQ(statusString("fr"), "3 missing");
 }
 
@@ -57,20 +57,20 @@ TEST_F(LanguageStatus, FollowsEachEdit) {
 TEST_F(LanguageStatus, IsCompleteWithoutStrings) {
   const Language french = *m_test.language("fr");
   m_test.project().clearProject();
-  EXPECT_EQ(m_test.project().languageStatus(french), "Complete");
+  EXPECT_EQ(m_test.project().languageStatus(french), Status::Complete);
   EXPECT_EQ(m_test.project().languageStatusString(french), "Complete");
 }
 
 TEST_F(LanguageStatus, IsReachedThroughTheLanguage) {
   const StatusTexts& texts = m_test.project().statusTexts();
-  EXPECT_EQ(m_test.language("fr")->status(texts, &m_test.project()), "Incomplete");
+  EXPECT_EQ(m_test.language("fr")->status(&m_test.project()), Status::Incomplete);
   EXPECT_EQ(m_test.language("fr")->statusString(texts, &m_test.project()), "3 missing");
 }
 
 TEST_F(LanguageStatus, OfAStringCountsTheLanguages) {
   EXPECT_EQ(m_test.project().totalLanguages(), 2);
   const StatusTexts& texts = m_test.project().statusTexts();
-  EXPECT_EQ(m_test.record("Add")->status(texts, &m_test.project()), "Complete");
+  EXPECT_EQ(m_test.record("Add")->status(&m_test.project()), Status::Complete);
   EXPECT_EQ(m_test.record("Cut")->statusString(texts, &m_test.project()), "1 missing");
 }
 
@@ -81,8 +81,7 @@ TEST(LanguageStatusTexts, AreInTheLanguageOfTheUser) {
   test.addLanguage("de", "\"Add\" = \"1\"\n\"Bold\" = \"2\"\n");
   test.addLanguage("fr");
   test.open();
-  EXPECT_EQ(test.project().languageStatus(*test.language("de")), "Vollständig");
-  EXPECT_EQ(test.project().languageStatus(*test.language("fr")), "Unvollständig");
+  EXPECT_EQ(test.project().languageStatusString(*test.language("de")), "Vollständig");
   EXPECT_EQ(test.project().languageStatusString(*test.language("fr")), "2 fehlen");
 }
 

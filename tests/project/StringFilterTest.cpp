@@ -121,5 +121,15 @@ TEST(StringFilterAtStart, ShowsItemZeroWithoutAStoredChoice) {
   EXPECT_EQ(test.keys(), (Keys{"Add"}));
 }
 
+TEST(StringFilterTexts, MayBeTheSameForTwoStatuses) {
+  TestProject test({{"Complete", "So weit"}, {"Incomplete", "So weit"}});
+  test.addString("Add");
+  test.addString("Bold");
+  test.addLanguage("de", "\"Add\" = \"1\"\n");
+  test.open();
+  test.chooseFilter(kNotComplete);
+  EXPECT_EQ(test.keys(), (Keys{"Bold"}));
+}
+
 }  // namespace
 }  // namespace glossmill

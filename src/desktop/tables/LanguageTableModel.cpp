@@ -2,9 +2,11 @@
 
 #include <QGuiApplication>
 
+#include "app/DisplayTransformers.h"
 #include "desktop/host/QtText.h"
 #include "desktop/look/ReadableColor.h"
 #include "desktop/tables/CellText.h"
+#include "model/PercentDone.h"
 
 namespace glossmill {
 
@@ -20,10 +22,7 @@ QStringList languageColumnTitles(const Bundle& bundle) {
 
 LanguageTableModel::LanguageTableModel(ArrayController<Language>& languages, ProjectWindowController& project,
                                        const Bundle& bundle)
-    : RecordTableModel(languageColumnTitles(bundle)),
-      m_languages(languages),
-      m_project(project),
-      m_statusColor(project.statusTexts()) {}
+    : RecordTableModel(languageColumnTitles(bundle)), m_languages(languages), m_project(project) {}
 
 QVariant LanguageTableModel::cell(std::size_t row, int column, int role) const {
   const Language& language = *m_languages.arrangedObject(row);
@@ -33,7 +32,7 @@ QVariant LanguageTableModel::cell(std::size_t row, int column, int role) const {
       return text(language, column);
     case Qt::ForegroundRole:
       if (column != Status) return {};
-      return readableColor(m_statusColor.transformedValue(language.status(m_project.statusTexts(), &m_project)),
+      return readableColor(StatusToTextColorTransformer::transformedValue(language.status(&m_project)),
                            QGuiApplication::palette());
     case kPercentRole:
       return column == Done ? percent(language) : QVariant();
@@ -55,11 +54,10 @@ QString LanguageTableModel::text(const Language& language, int column) const {
   }
 }
 
-/// Strings that the filter holds back are complete. Only what is quite done is 100 per cent.
+/// Strings that the filter holds back are complete.
 int LanguageTableModel::percent(const Language& language) const {
   const std::size_t all = m_project.stringList().size() + m_project.filteredStringList().size();
-  const std::size_t missing = m_project.missingTranslations(language);
-  return all == 0 || missing == 0 ? 100 : static_cast<int>((all - missing) * 100 / all);
+  return percentDone(all, m_project.missingTranslations(language));
 }
 
 }  // namespace glossmill

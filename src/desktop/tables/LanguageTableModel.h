@@ -27,7 +27,6 @@ class LanguageTableModel : public RecordTableModel {
 
   ArrayController<Language>& m_languages;
   ProjectWindowController& m_project;
-  StatusToTextColorTransformer m_statusColor;
 };
 
 }  // namespace glossmill

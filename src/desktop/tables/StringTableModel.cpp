@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 
+#include "app/DisplayTransformers.h"
 #include "desktop/host/QtText.h"
 #include "desktop/look/LanguageDirection.h"
 #include "desktop/look/ReadableColor.h"
@@ -22,7 +23,7 @@ QStringList stringColumnTitles(const Bundle& bundle) {
 }  // namespace
 
 StringTableModel::StringTableModel(ProjectWindowController& project, const Bundle& bundle)
-    : RecordTableModel(stringColumnTitles(bundle)), m_project(project), m_statusColor(project.statusTexts()) {}
+    : RecordTableModel(stringColumnTitles(bundle)), m_project(project) {}
 
 QVariant StringTableModel::cell(std::size_t row, int column, int role) const {
   const LocalizeString& record = *m_project.stringController().arrangedObject(row);
@@ -34,7 +35,7 @@ QVariant StringTableModel::cell(std::size_t row, int column, int role) const {
       return alignment(column);
     case Qt::ForegroundRole:
       if (column != Status) return {};
-      return readableColor(m_statusColor.transformedValue(record.status(m_project.statusTexts(), &m_project)),
+      return readableColor(StatusToTextColorTransformer::transformedValue(record.status(&m_project)),
                            QGuiApplication::palette());
     default:
       return {};

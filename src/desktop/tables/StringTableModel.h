@@ -22,7 +22,6 @@ class StringTableModel : public RecordTableModel {
   QVariant alignment(int column) const;
 
   ProjectWindowController& m_project;
-  StatusToTextColorTransformer m_statusColor;
 };
 
 }  // namespace glossmill
