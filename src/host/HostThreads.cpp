@@ -9,9 +9,11 @@ namespace glossmill {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Clock = MainThreadMailbox::Clock;
 
 constexpr std::chrono::milliseconds kTickInterval{50};
+constexpr Clock::duration kOneWork{
+    0};  ///< the next is done more quickly by who brings it, once the main thread is parked
 
 }  // namespace
 
@@ -53,10 +55,12 @@ void HostThreads::performOnMainThreadAndWait(const std::function<void()>& work) 
 void HostThreads::runUntilIdle(const std::function<void()>& tick) {
   Clock::time_point nextTick = Clock::now() + kTickInterval;
   while (jobsRunning() > 0) {
-    m_mailbox.waitAndDrain(nextTick - Clock::now());
-    if (Clock::now() < nextTick) continue;
-    if (tick) tick();
-    nextTick = Clock::now() + kTickInterval;
+    m_mailbox.parkUntil(nextTick);
+    if (Clock::now() >= nextTick) {
+      if (tick) tick();
+      nextTick = Clock::now() + kTickInterval;
+    }
+    m_mailbox.drain(kOneWork);
   }
   joinEnded();
 }

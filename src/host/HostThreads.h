@@ -11,22 +11,23 @@
 
 namespace glossmill {
 
-/// One std::thread per background job, and a mailbox to the thread that made this object: the main thread. What a job
-/// throws, such as that there is no memory left, is thrown again on the main thread, where it drains the mailbox; a
-/// thread that cannot be started is a std::system_error at once.
+/// One std::thread per background job, and a mailbox to the thread that made this object: the main thread, which lends
+/// its role to jobs while it waits for them. What a job throws, such as that there is no memory left, is thrown again
+/// on the main thread, where it drains the mailbox; a thread that cannot be started is a std::system_error at once.
 class HostThreads : public Threads {
  public:
-  HostThreads() : m_mainThread(std::this_thread::get_id()) {}
+  HostThreads() = default;
   ~HostThreads() override { joinAll(); }
   HostThreads(const HostThreads&) = delete;
   HostThreads& operator=(const HostThreads&) = delete;
 
-  bool isMainThread() const override { return std::this_thread::get_id() == m_mainThread; }
+  bool isMainThread() const override { return m_mailbox.isMainThread(); }
   void performInBackground(std::function<void()> job) override;
   void performOnMainThreadAndWait(const std::function<void()>& work) override;
 
-  /// The main loop of a host without a window: does the jobs' work on the main thread until no job is left, then joins
-  /// them. `tick` is called about every 50 ms meanwhile. Not from within a job's work on the main thread.
+  /// The main loop of a host without a window: until no job is left, their work for the main thread is done here or,
+  /// with the role borrowed, by themselves; then they are joined. `tick` is called about every 50 ms meanwhile. Not
+  /// from within such work, which is a std::logic_error where the role is borrowed.
   void runUntilIdle(const std::function<void()>& tick = {});
   /// Shuts down: work for the main thread is dropped from now on, jobs are not started any more, running ones are
   /// waited for. Cancel them before.
@@ -46,7 +47,6 @@ class HostThreads : public Threads {
   void run(const std::function<void()>& work, Job& job);
   void joinEnded();
 
-  const std::thread::id m_mainThread;
   MainThreadMailbox m_mailbox;
   std::atomic<int> m_running{0};
   std::mutex m_mutex;

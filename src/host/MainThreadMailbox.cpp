@@ -1,5 +1,6 @@
 #include "host/MainThreadMailbox.h"
 
+#include <stdexcept>
 #include <utility>
 
 namespace glossmill {
@@ -13,10 +14,47 @@ void MainThreadMailbox::setWakeCallback(std::function<void()> wake) {
 }
 
 bool MainThreadMailbox::performAndWait(const Work& work) {
+  if (borrowRole()) {
+    performBorrowed(work);
+    return true;
+  }
   Item item{work};
   if (!post(item)) return false;
   if (!m_posterYield.until([&item] { return item.isFinished(); })) sleepUntilFinished(item);
   return item.state.load(std::memory_order_acquire) == State::Done;
+}
+
+/// Not in front of work that waits, and not when the main thread wants to go on.
+bool MainThreadMailbox::borrowRole() {
+  const std::lock_guard lock(m_mutex);
+  if (!m_parked || isLent() || ownerIsCalled() || m_closed) return false;
+  m_holder.store(std::this_thread::get_id(), std::memory_order_relaxed);
+  return true;
+}
+
+void MainThreadMailbox::performBorrowed(const Work& work) {
+  std::exception_ptr problem;
+  try {
+    work();
+  } catch (...) {
+    problem = std::current_exception();
+  }
+  giveRoleBack(std::move(problem));
+}
+
+void MainThreadMailbox::giveRoleBack(std::exception_ptr problem) {
+  bool isCalled = false;
+  {
+    const std::lock_guard lock(m_mutex);
+    m_problem = std::move(problem);
+    m_holder.store(m_owner, std::memory_order_relaxed);
+    isCalled = ownerIsCalled();
+  }
+  if (isCalled) m_arrived.notify_one();
+}
+
+void MainThreadMailbox::requireOwner() const {
+  if (std::this_thread::get_id() != m_owner) throw std::logic_error("only the main thread itself runs its loop");
 }
 
 bool MainThreadMailbox::post(Item& item) {
@@ -41,10 +79,11 @@ void MainThreadMailbox::sleepUntilFinished(Item& item) {
 }
 
 void MainThreadMailbox::drain(Duration maxTime) {
-  const auto end = std::chrono::steady_clock::now() + maxTime;
+  requireOwner();
+  const Clock::time_point end = Clock::now() + maxTime;
   while (Item* item = takeNext()) {
     perform(*item);
-    if (std::chrono::steady_clock::now() >= end) break;
+    if (Clock::now() >= end) break;
     m_mainYield.until([this] { return waitingCount() != 0; });
   }
   rearm();
@@ -78,13 +117,19 @@ void MainThreadMailbox::finish(Item& item, State state) {
   m_finished.notify_all();
 }
 
-void MainThreadMailbox::waitAndDrain(Duration timeout) {
+void MainThreadMailbox::parkUntil(Clock::time_point time) {
+  requireOwner();
+  std::exception_ptr problem;
   {
     std::unique_lock lock(m_mutex);
-    m_arrived.wait_for(lock, timeout, [this] { return m_nudged || !m_queue.empty(); });
-    m_nudged = false;
+    m_parked = !m_wake;
+    m_arrived.wait_until(lock, time, [this] { return ownerIsCalled() && !isLent(); });
+    m_recalled = true;
+    m_arrived.wait(lock, [this] { return !isLent(); });
+    m_parked = m_recalled = m_nudged = false;
+    problem = std::exchange(m_problem, nullptr);
   }
-  drain();
+  if (problem) std::rethrow_exception(problem);
 }
 
 void MainThreadMailbox::rearm() {

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <memory>
 #include <new>
 #include <semaphore>
+#include <stdexcept>
 #include <string>
 #include <thread>
 
@@ -133,6 +135,75 @@ TEST(HostThreads, TicksWhileAJobNeverStopsHopping) {
   });
   threads.runUntilIdle([&canceled] { canceled = true; });
   EXPECT_TRUE(canceled);
+}
+
+TEST(HostThreads, JobsShareTheRoleOfTheMainThreadWithItsTicks) {
+  constexpr int kJobs = 3;
+  HostThreads threads;
+  std::string log;  // touched only with the role
+  std::atomic<bool> enough{false};
+  for (int job = 0; job < kJobs; ++job) {
+    threads.performInBackground([&] {
+      while (!enough) {
+        threads.performOnMainThreadAndWait([&] {
+          EXPECT_TRUE(threads.isMainThread());
+          log += 'w';
+        });
+      }
+    });
+  }
+  int ticks = 0;
+  threads.runUntilIdle([&] {
+    EXPECT_TRUE(threads.isMainThread());
+    log += 't';
+    if (++ticks == 4) enough = true;
+  });
+  EXPECT_TRUE(threads.isMainThread());
+  EXPECT_EQ(std::count(log.begin(), log.end(), 't'), ticks);
+  EXPECT_GT(std::count(log.begin(), log.end(), 'w'), kJobs);
+}
+
+TEST(HostThreads, AJobDoesItsOwnHopsWhileTheMainThreadIsParked) {
+  HostThreads threads;
+  bool own = false;
+  threads.performInBackground([&] {
+    const std::thread::id self = std::this_thread::get_id();
+    for (int hop = 0; hop < 100'000 && !own; ++hop) {
+      threads.performOnMainThreadAndWait([&] { own = std::this_thread::get_id() == self; });
+    }
+  });
+  threads.runUntilIdle();
+  EXPECT_TRUE(own);
+}
+
+TEST(HostThreads, AnEventLoopOfItsOwnKeepsTheRole) {
+  HostThreads threads;
+  threads.mailbox().setWakeCallback([] {});
+  const std::thread::id main = std::this_thread::get_id();
+  bool alwaysMain = true;
+  threads.performInBackground([&] {
+    for (int hop = 0; hop < 1000; ++hop) {
+      threads.performOnMainThreadAndWait([&] { alwaysMain = alwaysMain && std::this_thread::get_id() == main; });
+    }
+  });
+  threads.runUntilIdle();
+  EXPECT_TRUE(alwaysMain);
+}
+
+TEST(HostThreads, NoLoopRunsInsideOfWorkThatBorrowedTheRole) {
+  HostThreads threads;
+  threads.performInBackground([&] {
+    const std::thread::id self = std::this_thread::get_id();
+    for (bool refused = false; !refused;) {
+      threads.performOnMainThreadAndWait([&] {
+        if (std::this_thread::get_id() != self) return;
+        EXPECT_THROW(threads.runUntilIdle(), std::logic_error);
+        refused = true;
+      });
+    }
+  });
+  threads.runUntilIdle();
+  EXPECT_EQ(threads.jobsRunning(), 0);
 }
 
 TEST(HostThreads, WhatAJobHeldIsGoneWhenItIsIdle) {

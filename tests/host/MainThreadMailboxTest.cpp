@@ -3,8 +3,11 @@
 #include <atomic>
 #include <chrono>
 #include <functional>
+#include <new>
 #include <semaphore>
+#include <stdexcept>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "host/MainThreadMailbox.h"
@@ -13,6 +16,7 @@ namespace glossmill {
 namespace {
 
 using std::chrono::seconds;
+using Clock = MainThreadMailbox::Clock;
 
 /// Posts one work on a thread of its own and keeps the answer.
 class Poster {
@@ -36,6 +40,49 @@ class Poster {
 void waitForWork(const MainThreadMailbox& mailbox, std::size_t count) {
   while (mailbox.waitingCount() < count) std::this_thread::yield();
 }
+
+/// Hops from a thread of its own until one hop was done there, with the role borrowed: the first ones may come before
+/// the main thread is parked.
+class BorrowingPoster {
+ public:
+  using BorrowedWork = std::function<void(MainThreadMailbox&)>;
+
+  explicit BorrowingPoster(MainThreadMailbox& mailbox) : m_mailbox(mailbox) {}
+  ~BorrowingPoster() {
+    if (m_thread.joinable()) m_thread.join();
+  }
+
+  /// `work` is done once, `afterwards` by the thread itself, without the role.
+  void start(
+      BorrowedWork work, std::function<void()> afterwards = [] {}) {
+    m_thread = std::thread([this, work = std::move(work), afterwards = std::move(afterwards)] {
+      const std::thread::id self = std::this_thread::get_id();
+      for (bool borrowed = false; !borrowed;) {
+        m_mailbox.performAndWait([&] {
+          borrowed = std::this_thread::get_id() == self;
+          if (borrowed) work(m_mailbox);
+        });
+      }
+      afterwards();
+      m_done = true;
+      m_mailbox.nudge();
+    });
+  }
+
+  bool isDone() const { return m_done; }
+  /// The main thread's part.
+  void parkUntilDone() {
+    while (!m_done) {
+      m_mailbox.parkUntil(Clock::now() + seconds(10));
+      m_mailbox.drain(seconds(0));
+    }
+  }
+
+ private:
+  MainThreadMailbox& m_mailbox;
+  std::atomic<bool> m_done{false};
+  std::thread m_thread;
+};
 
 TEST(MainThreadMailbox, DoesTheWorkOnTheDrainingThreadBeforeThePosterGoesOn) {
   MainThreadMailbox mailbox;
@@ -74,7 +121,10 @@ TEST(MainThreadMailbox, CarriesManyHopsOfSeveralThreadsEachInItsOrder) {
       mailbox.nudge();
     });
   }
-  while (ended < kThreads) mailbox.waitAndDrain(seconds(10));
+  while (ended < kThreads) {
+    mailbox.parkUntil(Clock::now() + seconds(10));
+    mailbox.drain();
+  }
   for (std::thread& thread : threads) thread.join();
   for (const auto& mine : seen) {
     ASSERT_EQ(mine.size(), kHops);
@@ -143,28 +193,29 @@ TEST(MainThreadMailbox, FinishesTheWorkThatClosesIt) {
 TEST(MainThreadMailbox, ANudgeEndsTheWait) {
   MainThreadMailbox mailbox;
   mailbox.nudge();
-  const auto start = std::chrono::steady_clock::now();
-  mailbox.waitAndDrain(seconds(60));
-  EXPECT_LT(std::chrono::steady_clock::now() - start, seconds(30));
+  const auto start = Clock::now();
+  mailbox.parkUntil(start + seconds(60));
+  EXPECT_LT(Clock::now() - start, seconds(30));
 }
 
-TEST(MainThreadMailbox, WorkEndsTheWait) {
+TEST(MainThreadMailbox, WorkEndsTheWaitOfAnEventLoopThatKeepsItsRole) {
   MainThreadMailbox mailbox;
-  const auto start = std::chrono::steady_clock::now();
-  std::thread thread([&mailbox, start] {
-    while (std::chrono::steady_clock::now() - start < std::chrono::milliseconds(10)) std::this_thread::yield();
-    mailbox.performAndWait([] {});
-  });
-  mailbox.waitAndDrain(seconds(60));
-  EXPECT_LT(std::chrono::steady_clock::now() - start, seconds(30));
-  thread.join();
+  mailbox.setWakeCallback([] {});
+  std::thread::id worker;
+  Poster poster(mailbox, [&worker] { worker = std::this_thread::get_id(); });
+  const auto start = Clock::now();
+  mailbox.parkUntil(start + seconds(60));
+  EXPECT_LT(Clock::now() - start, seconds(30));
+  mailbox.drain();
+  EXPECT_TRUE(poster.wasDone());
+  EXPECT_EQ(worker, std::this_thread::get_id());
 }
 
 TEST(MainThreadMailbox, TheWaitEndsWithItsTimeout) {
   MainThreadMailbox mailbox;
-  const auto start = std::chrono::steady_clock::now();
-  mailbox.waitAndDrain(std::chrono::milliseconds(20));
-  EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(20));
+  const auto start = Clock::now();
+  mailbox.parkUntil(start + std::chrono::milliseconds(20));
+  EXPECT_GE(Clock::now() - start, std::chrono::milliseconds(20));
 }
 
 TEST(MainThreadMailbox, WakesTheEventLoopOnceUntilItIsDrained) {
@@ -262,6 +313,74 @@ TEST(MainThreadMailbox, AnEventLoopThatSleepsBetweenWakesMissesNoHop) {
   }
   thread.join();
   EXPECT_EQ(done, kHops);
+}
+
+TEST(MainThreadMailbox, APosterBorrowsTheRoleOfAParkedMainThread) {
+  MainThreadMailbox mailbox;
+  BorrowingPoster poster(mailbox);
+  bool mainInWork = false;
+  bool mainAfterwards = true;
+  poster.start([&](MainThreadMailbox& lent) { mainInWork = lent.isMainThread(); },
+               [&] { mainAfterwards = mailbox.isMainThread(); });
+  EXPECT_NO_THROW(poster.parkUntilDone());
+  EXPECT_TRUE(mainInWork);
+  EXPECT_FALSE(mainAfterwards);
+  EXPECT_TRUE(mailbox.isMainThread());
+}
+
+TEST(MainThreadMailbox, TheMainThreadGetsItsRoleBackWhenTheHopIsDone) {
+  MainThreadMailbox mailbox;
+  BorrowingPoster poster(mailbox);
+  bool working = false;  // plain: whoever holds the role sees what its holders did before
+  poster.start([&](MainThreadMailbox&) {
+    working = true;
+    const auto end = Clock::now() + std::chrono::milliseconds(20);
+    while (Clock::now() < end) std::this_thread::yield();
+    working = false;
+  });
+  while (!poster.isDone()) {
+    mailbox.parkUntil(Clock::now() + std::chrono::milliseconds(1));
+    EXPECT_TRUE(mailbox.isMainThread());
+    EXPECT_FALSE(working);
+    mailbox.drain(seconds(0));
+  }
+}
+
+TEST(MainThreadMailbox, WhatABorrowersWorkThrowsReachesTheMainThreadAtOnce) {
+  MainThreadMailbox mailbox;
+  std::binary_semaphore caught{0};
+  BorrowingPoster poster(mailbox);
+  poster.start([](MainThreadMailbox&) { throw std::bad_alloc(); }, [&caught] { caught.acquire(); });
+  const auto start = Clock::now();
+  EXPECT_THROW(poster.parkUntilDone(), std::bad_alloc);
+  EXPECT_LT(Clock::now() - start, seconds(5));
+  caught.release();
+  poster.parkUntilDone();
+}
+
+TEST(MainThreadMailbox, ABorrowerRunsNoLoopOfItsOwn) {
+  MainThreadMailbox mailbox;
+  BorrowingPoster poster(mailbox);
+  poster.start([](MainThreadMailbox& lent) {
+    EXPECT_THROW(lent.drain(), std::logic_error);
+    EXPECT_THROW(lent.parkUntil(Clock::now()), std::logic_error);
+  });
+  poster.parkUntilDone();
+}
+
+TEST(MainThreadMailbox, NobodyBorrowsTheRoleInFrontOfWorkThatWaits) {
+  MainThreadMailbox mailbox;
+  std::vector<int> order;
+  std::thread second;
+  BorrowingPoster first(mailbox);
+  const auto letAnotherPost = [&](MainThreadMailbox&) {
+    second = std::thread([&] { mailbox.performAndWait([&order] { order.push_back(1); }); });
+    waitForWork(mailbox, 1);
+  };
+  first.start(letAnotherPost, [&] { mailbox.performAndWait([&order] { order.push_back(2); }); });
+  first.parkUntilDone();
+  second.join();
+  EXPECT_EQ(order, (std::vector{1, 2}));
 }
 
 }  // namespace
