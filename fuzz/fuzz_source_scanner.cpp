@@ -1,6 +1,6 @@
 #include "fuzz/FuzzSupport.h"
 #include "scan/ReferenceSourceScanner.h"
-#include "scan/SourceScanner.h"
+#include "scan/ScannedSource.h"
 #include "text/TextDecoder.h"
 #include "text/Utf16.h"
 
@@ -10,7 +10,7 @@ namespace {
 constexpr std::size_t kLongestForReference = 4096;  // whose time grows with the square
 constexpr std::size_t kExcerptUnits = 80;
 
-void requireStringsInText(const SourceScan& scan, std::string_view text) {
+void requireStringsInText(const ScannedSource& scan, std::string_view text) {
   for (const SourceString& string : scan.strings) {
     require(liesIn(string.name, text) && liesIn(string.comment, text), "names and comments lie in the text");
     require(string.name.data() + string.name.size() < string.comment.data(), "a comment follows its name");
@@ -19,14 +19,14 @@ void requireStringsInText(const SourceScan& scan, std::string_view text) {
   }
 }
 
-void requireShortExcerpts(const SourceScan& scan) {
+void requireShortExcerpts(const ScannedSource& scan) {
   for (const std::string& excerpt : scan.badCalls) {
     require(isValidUtf8(excerpt), "an excerpt is valid UTF-8");
     require(utf16Length(excerpt) <= kExcerptUnits, "an excerpt is at most 80 units long");
   }
 }
 
-void requireSameAsReference(const SourceScan& scan, std::string_view text) {
+void requireSameAsReference(const ScannedSource& scan, std::string_view text) {
   const ReferenceSourceScanner expected(text);
   require(scan.badCalls == expected.badCalls, "bad calls are those of the plain rules");
   const auto isSame = [](const SourceString& a, const ReferenceSourceScanner::String& b) {
@@ -38,8 +38,8 @@ void requireSameAsReference(const SourceScan& scan, std::string_view text) {
 }
 
 void scanText(std::string_view text) {
-  const SourceScan scan = scanSource(text, CancelFlag());
-  require(!scan.canceled, "nobody cancelled");
+  const ScannedSource scan(text);
+  require(!scan.wasCanceled, "nobody cancelled");
   requireStringsInText(scan, text);
   requireShortExcerpts(scan);
   if (text.size() <= kLongestForReference) requireSameAsReference(scan, text);

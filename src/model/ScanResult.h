@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "model/Language.h"
+#include "model/ScanReport.h"
 #include "model/StringListBuilder.h"
 #include "platform/FileUrl.h"
 
@@ -14,6 +15,7 @@ struct ScanResult {
   std::vector<FileUrl> fileList;  ///< scanned sources, in the order of the walk
   StringListBuilder stringList;
   std::shared_ptr<LanguageArray> languagesList = std::make_shared<LanguageArray>();
+  ScanReport report;
 };
 
 }  // namespace glossmill

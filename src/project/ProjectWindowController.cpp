@@ -1,11 +1,16 @@
 #include "project/ProjectWindowController.h"
 
+#include "project/RuleSets.h"
 #include "text/Format.h"
 
 namespace glossmill {
 
 ProjectWindowController::ProjectWindowController(const Host& host, ApplicationServices& application)
-    : m_host(host), m_application(application), m_statusTexts(host.bundle) {
+    : m_host(host),
+      m_application(application),
+      m_statusTexts(host.bundle),
+      m_scanMessages(host.bundle, host.systemLog, [this](std::string_view text) { logText(text); }),
+      m_rules(&projectRules(m_options.rules)) {
   m_stringController.addObserver([this](ArrayChange change) {
     if (change == ArrayChange::Content) m_counts.invalidate();
   });
@@ -46,6 +51,7 @@ void ProjectWindowController::clearProject() {
   m_filteredStringList.clear();
   m_stringController.removeAllObjects();
   m_fileList.clear();
+  m_scanReport = ScanReport();
   // The array itself stays with the choosers that were given it; the project gets an empty one.
   m_languageController.setContent(std::make_shared<LanguageArray>());
   setChanged(false);

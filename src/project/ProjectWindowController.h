@@ -16,20 +16,17 @@
 #include "model/LocalizeString.h"
 #include "model/ProjectContext.h"
 #include "model/ProjectOptions.h"
+#include "model/ProjectRules.h"
 #include "model/ScanResult.h"
 #include "model/StatusTexts.h"
 #include "model/TranslationCounts.h"
 #include "platform/CancelFlag.h"
 #include "platform/Host.h"
-#include "scan/TreeWalk.h"
+#include "project/ScanMessages.h"
 
 namespace glossmill {
 
-class KeyReader;
 class StringsFileTexts;
-class TranslationColumns;
-struct StringsFileContent;
-struct StringsFileDiagnostic;
 
 /// Owns the open project for its whole life and offers its operations: the rules are in modules, this class asks the
 /// host, calls one module, adopts the result and tells the window. Main thread, but for the operations marked
@@ -37,7 +34,7 @@ struct StringsFileDiagnostic;
 class ProjectWindowController : public ProjectContext,
                                 public LanguageWindowControllerDelegate,
                                 public SelectLanguageWindowControllerDelegate,
-                                private TreeWalkListener {
+                                private ScanListener {
  public:
   using StringController = ArrayController<LocalizeString>;
   using LanguageController = ArrayController<Language>;
@@ -63,8 +60,8 @@ class ProjectWindowController : public ProjectContext,
   bool opened() const { return m_opened; }
   const FileUrl& projectDirectory() const { return m_projectDirectory; }
   /// The package that the last scan took; nothing when it found none.
-  const std::optional<FileUrl>& projectPackage() const { return m_projectPackage; }
-  const std::optional<std::string>& projectFileData() const { return m_projectFileData; }
+  const std::optional<FileUrl>& projectPackage() const { return m_scanMemory.projectPackage; }
+  const std::optional<std::string>& projectFileData() const { return m_scanMemory.projectFileData; }
   const std::vector<FileUrl>& fileList() const { return m_fileList; }
   const StringArray& stringList() const { return *m_stringController.content(); }
   const StringArray& filteredStringList() const { return m_filteredStringList; }
@@ -72,11 +69,13 @@ class ProjectWindowController : public ProjectContext,
   const std::shared_ptr<LanguageArray>& languagesList() const { return m_languageController.content(); }
   const IsoTable& iso639Dict() const { return m_iso639Dict; }
   const FileUrl& actualParseFileName() const { return m_actualParseFileName; }
-  const std::shared_ptr<Language>& actualLanguage() const { return m_walkState.actualLanguage; }
-  std::int64_t actualDirectoryDepth() const { return m_walkState.actualDirectoryDepth; }
+  const std::shared_ptr<Language>& actualLanguage() const { return m_scanMemory.actualLanguage; }
+  std::int64_t actualDirectoryDepth() const { return m_scanMemory.actualDirectoryDepth; }
   StringController& stringController() { return m_stringController; }
   LanguageController& languageController() { return m_languageController; }
   const StatusTexts& statusTexts() const { return m_statusTexts; }
+  /// What the scan of the open project left out.
+  const ScanReport& scanReport() const { return m_scanReport; }
   /// Whether the long-time sheet was begun and not yet closed.
   bool longJobRunning() const { return m_longJobRunning; }
 
@@ -99,15 +98,11 @@ class ProjectWindowController : public ProjectContext,
 
   // ---- The scan's phases: ProjectWindowControllerScan.cpp ----
 
-  /// Background.
-  std::optional<FileUrl> xcodeProjectUrl(const FileUrl& directory);
   /// Phase one. Background.
-  void parseFileList(const FileUrl& directory);
-  /// Background.
-  void contentsOfUrlDestination(const FileUrl& directory, ScanResult& destination);
+  void parseFileList(const FileUrl& directory, const ProjectRules& rules);
   void endParseFileList(std::shared_ptr<ScanResult> result);
   /// Phase two. A cancel noticed in it ends it without a word to the main thread, so the sheet stays up. Background.
-  void parseLocalizableStringsList(std::shared_ptr<ScanResult> result);
+  void parseLocalizableStringsList(std::shared_ptr<ScanResult> result, const ProjectRules& rules);
   void endParseLocalizeableStringList(ScanResult& result);
 
   // ---- Filter, status and navigation: ProjectWindowControllerEditing.cpp ----
@@ -200,18 +195,8 @@ class ProjectWindowController : public ProjectContext,
   void makeIndicatorIndeterminate();
   void makeIndicatorCounting();
 
-  void readProjectFile(const FileUrl& package);
-  void oldLanguageName(std::string_view directoryName, const std::string& code) override;
-  void foundStringsFile(const Language& language) override;
-  void sourceFile(const FileUrl& file) override;
-  void logSourceError(const FileUrl& file, const Error& error);
-  void badStringFormat(const std::string& excerpt);
-  /// False when a cancel was noticed, which ends the phase.
-  bool parseLocalizableStrings(const Language& language, ScanResult& result, KeyReader& keys,
-                               TranslationColumns& columns);
-  bool logDiagnostics(const StringsFileContent& content);
-  void logDiagnostic(const StringsFileDiagnostic& diagnostic);
-  void logMissingStrings(const Language& language);
+  ScanInput scanInput(ScanListener& listener);
+  void happened(const ScanEvent& event) override;
   void installResult(ScanResult& result);
 
   void holdBackCompleteStrings();
@@ -232,6 +217,7 @@ class ProjectWindowController : public ProjectContext,
   Host m_host;
   ApplicationServices& m_application;
   StatusTexts m_statusTexts;
+  ScanMessages m_scanMessages;
 
   Interface<ProjectWindowOutlets> m_window;
   Interface<LongTimeSheetOutlets> m_longTime;
@@ -250,14 +236,13 @@ class ProjectWindowController : public ProjectContext,
   StringArray m_filteredStringList;  ///< held back from the string table by the filter
   mutable TranslationCounts m_counts;
 
-  std::optional<std::string> m_projectFileData;  ///< nothing until a project file was read
   FileUrl m_projectDirectory;
   ProjectOptions m_options;
-  std::optional<FileUrl> m_projectPackage;
+  const ProjectRules* m_rules;  ///< those of the options
   IsoTable m_iso639Dict;
   FileUrl m_actualParseFileName;
-  TreeWalkState m_walkState;
-  ScanResult* m_walkDestination = nullptr;  ///< while a walk runs
+  ScanMemory m_scanMemory;  ///< written by phase one
+  ScanReport m_scanReport;
   bool m_changed = false;
   bool m_opened = false;
 };

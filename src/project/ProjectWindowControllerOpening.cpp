@@ -1,4 +1,5 @@
 #include "project/ProjectWindowController.h"
+#include "project/RuleSets.h"
 
 namespace glossmill {
 
@@ -26,6 +27,7 @@ bool ProjectWindowController::openProjectAt(const FileUrl& directory, const Proj
 void ProjectWindowController::startScan(const FileUrl& directory, const ProjectOptions& options) {
   m_projectDirectory = directory;
   m_options = options;
+  m_rules = &projectRules(options.rules);
   parseProject();
   m_window.outlets.window->setTitle(m_projectDirectory.lastPathComponentWithoutExtension());
 }
@@ -33,7 +35,8 @@ void ProjectWindowController::startScan(const FileUrl& directory, const ProjectO
 bool ProjectWindowController::parseProject() {
   beginLongTimeSheet("Parsing project directory...");
   makeIndicatorIndeterminate();
-  m_host.threads.performInBackground([this, directory = m_projectDirectory] { parseFileList(directory); });
+  m_host.threads.performInBackground(
+      [this, directory = m_projectDirectory, &rules = *m_rules] { parseFileList(directory, rules); });
   return true;
 }
 

@@ -1,6 +1,6 @@
 #include "scan/SourceScanner.h"
 
-#include <optional>
+#include <variant>
 
 #include "scan/CallSearch.h"
 #include "scan/ForwardSearch.h"
@@ -46,18 +46,19 @@ class ArgumentSplitter {
         m_commentClose(text, '"') {}
 
   /// The argument text runs from `open` to `close`, which is the length of the text for an unbalanced call.
-  std::optional<SourceString> split(std::size_t open, std::size_t close) {
-    if (close == m_text.size()) return std::nullopt;
+  std::variant<SourceString, CallRejection> split(std::size_t open, std::size_t close) {
+    if (open == m_text.size()) return CallRejection::NoParenthesis;
+    if (close == m_text.size()) return CallRejection::Unbalanced;
     const std::size_t keyStart = m_keyOpen.next(m_keyAt.next(open)) + 1;
-    if (keyStart > close) return std::nullopt;
+    if (keyStart > close) return CallRejection::NoKey;
     const std::size_t keyEnd = m_keyClose.next(keyStart);
-    if (keyEnd > close) return std::nullopt;
+    if (keyEnd > close) return CallRejection::UnclosedKey;
     const std::size_t comma = m_comma.next(keyEnd + 1);
-    if (comma > close) return std::nullopt;
+    if (comma > close) return CallRejection::NoComma;
     const std::size_t commentStart = m_commentOpen.next(m_commentAt.next(comma + 1)) + 1;
-    if (commentStart > close) return std::nullopt;
+    if (commentStart > close) return CallRejection::NoComment;
     const std::size_t commentEnd = m_commentClose.next(commentStart);
-    if (commentEnd > close) return std::nullopt;
+    if (commentEnd > close) return CallRejection::UnclosedComment;
     return SourceString{m_text.substr(keyStart, keyEnd - keyStart),
                         m_text.substr(commentStart, commentEnd - commentStart)};
   }
@@ -75,17 +76,17 @@ class ArgumentSplitter {
 
 }  // namespace
 
-SourceScan scanSource(std::string_view text, const CancelFlag& canceled) {
+SourceScan scanSource(std::string_view text, const CancelFlag& canceled, const RejectedCallSink& rejected) {
   const Calls calls = findCalls(text, canceled);
   const std::vector<std::size_t> closes = closingParentheses(text, calls.opens, canceled);
   SourceScan scan;
   ArgumentSplitter splitter(text);
   for (std::size_t call = 0; call < calls.starts.size() && !canceled.isSet(); ++call) {
-    const std::optional<SourceString> found = splitter.split(calls.opens[call], closes[call]);
-    if (found) {
-      scan.strings.push_back(*found);
+    const auto found = splitter.split(calls.opens[call], closes[call]);
+    if (const auto* string = std::get_if<SourceString>(&found)) {
+      scan.strings.push_back(*string);
     } else {
-      scan.badCalls.push_back(clipUtf16(text.substr(calls.starts[call]), kExcerptUnits));
+      rejected(clipUtf16(text.substr(calls.starts[call]), kExcerptUnits), std::get<CallRejection>(found));
     }
   }
   scan.canceled = canceled.isSet();

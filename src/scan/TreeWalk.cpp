@@ -28,7 +28,7 @@ void TreeWalk::directoryEntry(const FileUrl& url, const DirectoryEntry& entry) {
 void TreeWalk::fileEntry(const FileUrl& url) {
   const std::string_view name = url.lastPathComponent();
   if (name == "Localizable.strings" && m_state.actualLanguage) {
-    m_listener.foundStringsFile(*m_state.actualLanguage);
+    m_listener.foundStringsFile(*m_state.actualLanguage, url);
     m_state.actualLanguage->setLocalizedStringUrl(url);
     m_state.actualLanguage->setUrlDepth(Language::kStringsFile);
   }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "model/IsoTable.h"
 #include "model/Language.h"
+#include "model/ProjectRules.h"
 #include "platform/CancelFlag.h"
 #include "platform/Files.h"
 #include "scan/DirectoryTrail.h"
@@ -14,18 +14,13 @@
 
 namespace glossmill {
 
-/// What a walk leaves behind for the next one.
-struct TreeWalkState {
-  std::int64_t actualDirectoryDepth = 0;     ///< directories entered so far; deliberately never lowered on the way out
-  std::shared_ptr<Language> actualLanguage;  ///< the language made last, also by an earlier walk
-};
-
 /// Hears of what a walk meets, in its order and on its thread.
 class TreeWalkListener {
  public:
   virtual ~TreeWalkListener() = default;
-  virtual void oldLanguageName(std::string_view directoryName, const std::string& code) = 0;
-  virtual void foundStringsFile(const Language& language) = 0;
+  virtual void oldLanguageName(std::string_view directoryName, std::string_view code) = 0;
+  /// The language is given its file afterwards.
+  virtual void foundStringsFile(const Language& language, const FileUrl& file) = 0;
   virtual void sourceFile(const FileUrl& file) = 0;
 };
 
@@ -41,7 +36,7 @@ struct TreeWalkInput {
 /// made last, whatever directory it lies in, and each member source file to the listener.
 class TreeWalk {
  public:
-  TreeWalk(const TreeWalkInput& input, TreeWalkState& state, LanguageArray& languages, TreeWalkListener& listener)
+  TreeWalk(const TreeWalkInput& input, ScanMemory& state, LanguageArray& languages, TreeWalkListener& listener)
       : m_input(input), m_state(state), m_languages(languages), m_listener(listener), m_trail(input.files) {}
 
   /// Walks one directory and everything below it.
@@ -55,7 +50,7 @@ class TreeWalk {
   void createLanguage(const std::string& code, const FileUrl& directory);
 
   TreeWalkInput m_input;
-  TreeWalkState& m_state;
+  ScanMemory& m_state;
   LanguageArray& m_languages;
   TreeWalkListener& m_listener;
   DirectoryTrail m_trail;

@@ -226,5 +226,24 @@ TEST_F(ProjectScan, DoesNotGiveAStringsFileBeforeTheFirstLanguageToALanguageOfTh
                           "Missing Localizable.strings for language: French"}));
 }
 
+TEST_F(ProjectScan, ReportsWhatItLeftOutUntilTheProjectIsClosed) {
+  addPackage("a.m b.m");
+  addFile("Harbour.app/a.m", R"(NSLocalizedString(@"Open", nil); NSLocalizedString(@"Shut", @""))");
+  addFile("Harbour.app/b.m");
+  host.files.failOpening("/P/Harbour.app/b.m", "Permission denied.");
+  addFile("Harbour.app/de.lproj/Localizable.strings", "\"Shut\" = \"Zu\";\nx\n\"Go\" = \"Los\";\n");
+  open();
+  ASSERT_EQ(project().scanReport().files().size(), 3U);
+  EXPECT_EQ(project().scanReport().files()[0].file, FileUrl("/P/Harbour.app/a.m"));
+  EXPECT_EQ(project().scanReport().files()[1].unread->sentence, "Permission denied.");
+  const ScanTotals totals = project().scanReport().totals();
+  EXPECT_EQ(totals.rejectedCalls, 1U);
+  EXPECT_EQ(totals.unreadSources, 1U);
+  EXPECT_EQ(totals.rejectedEntries, 1U);
+  EXPECT_EQ(totals.unmatchedEntries, 1U);
+  project().closeProject();
+  EXPECT_TRUE(project().scanReport().files().empty());
+}
+
 }  // namespace
 }  // namespace glossmill

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "scan/SourceScanner.h"
+#include "scan/ScannedSource.h"
 #include "support/Ship.h"
 
 namespace glossmill {
@@ -12,7 +12,7 @@ constexpr const char* kCall = "NSLocalizedString";
 
 /// The excerpt of a bad call that goes on with `rest`.
 std::string excerptOf(const std::string& rest) {
-  const SourceScan found = scanSource(kCall + rest, CancelFlag());
+  const ScannedSource found(kCall + rest);
   EXPECT_EQ(found.badCalls.size(), 1U);
   return found.badCalls.empty() ? "" : found.badCalls.front();
 }

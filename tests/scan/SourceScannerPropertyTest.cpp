@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "scan/ReferenceSourceScanner.h"
-#include "scan/SourceScanner.h"
+#include "scan/ScannedSource.h"
 #include "text/Utf8.h"
 
 namespace glossmill {
@@ -61,7 +61,7 @@ class RandomSource {
 void expectTheSame(const std::string& text) {
   SCOPED_TRACE(text);
   const ReferenceSourceScanner expected(text);
-  const SourceScan found = scanSource(text, CancelFlag());
+  const ScannedSource found(text);
   std::vector<ReferenceSourceScanner::String> strings;
   for (const SourceString& string : found.strings) {
     strings.push_back({std::string(string.name), std::string(string.comment)});

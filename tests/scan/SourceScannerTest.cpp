@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "scan/SourceScanner.h"
+#include "scan/ScannedSource.h"
 #include "support/Ship.h"
 
 namespace glossmill {
@@ -13,8 +13,8 @@ namespace {
 using Strings = std::vector<std::pair<std::string, std::string>>;  // name and comment
 using BadCalls = std::vector<std::string>;
 
-SourceScan scan(std::string_view text) {
-  return scanSource(text, CancelFlag());
+ScannedSource scan(std::string_view text) {
+  return ScannedSource(text);
 }
 
 Strings stringsIn(std::string_view text) {
@@ -42,10 +42,10 @@ TEST(SourceScanner, TakesNameAndCommentOfACall) {
 TEST(SourceScanner, FindsNothingInATextWithoutCalls) {
   for (const std::string_view text :
        {"", "(", "int main() { return @\"a\", @\"b\"; }", "NSLocalizedStrin(@\"k\", @\"c\")"}) {
-    const SourceScan found = scan(text);
+    const ScannedSource found = scan(text);
     EXPECT_TRUE(found.strings.empty()) << text;
     EXPECT_TRUE(found.badCalls.empty()) << text;
-    EXPECT_FALSE(found.canceled) << text;
+    EXPECT_FALSE(found.wasCanceled) << text;
   }
 }
 
@@ -178,6 +178,22 @@ TEST(SourceScanner, GivesStringsAndBadCallsInTheOrderOfTheText) {
   EXPECT_EQ(scan(text).badCalls, expected);
 }
 
+TEST(SourceScanner, TellsWhatARejectedCallLacks) {
+  const std::pair<const char*, CallRejection> cases[] = {
+      {R"(NSLocalizedString @"k", @"c")", CallRejection::NoParenthesis},
+      {R"~(NSLocalizedString(@"k(", @"c"))~", CallRejection::Unbalanced},
+      {R"(NSLocalizedString(key, nil))", CallRejection::NoKey},
+      {R"~(NSLocalizedString(@"k:)", @"c")~", CallRejection::UnclosedKey},
+      {R"(NSLocalizedString(@"k"))", CallRejection::NoComma},
+      {R"(NSLocalizedString(key, @"c"))", CallRejection::NoComma},
+      {R"(NSLocalizedString(@"k", nil))", CallRejection::NoComment},
+      {R"~(NSLocalizedString(@"k", @"c:)")~", CallRejection::UnclosedComment},
+  };
+  for (const auto& [text, reason] : cases) {
+    EXPECT_EQ(scan(text).reasons, std::vector<CallRejection>{reason}) << text;
+  }
+}
+
 TEST(SourceScanner, GivesEveryOccurrenceOfAString) {
   EXPECT_EQ(stringsIn(R"(NSLocalizedString(@"a", @"1") NSLocalizedString(@"a", @"1"))"),
             (Strings{{"a", "1"}, {"a", "1"}}));
@@ -195,7 +211,7 @@ TEST(SourceScanner, TakesCallsApartThatHangTogether) {
 
 TEST(SourceScanner, GivesViewsIntoTheText) {
   const std::string text = R"(NSLocalizedString(@"", @"c"))";
-  const SourceScan found = scan(text);
+  const ScannedSource found = scan(text);
   EXPECT_EQ(found.strings.at(0).name.data(), text.data() + 20);
   EXPECT_EQ(found.strings.at(0).comment.data(), text.data() + 25);
 }
@@ -203,18 +219,18 @@ TEST(SourceScanner, GivesViewsIntoTheText) {
 TEST(SourceScanner, TellsThatItWasCanceled) {
   CancelFlag canceled;
   canceled.set(true);
-  EXPECT_TRUE(scanSource(R"(NSLocalizedString(@"k", @"c"))", canceled).canceled);
-  EXPECT_TRUE(scanSource("", canceled).canceled);
+  EXPECT_TRUE(ScannedSource(R"(NSLocalizedString(@"k", @"c"))", canceled).wasCanceled);
+  EXPECT_TRUE(ScannedSource("", canceled).wasCanceled);
 }
 
 TEST(SourceScanner, TakesManyNestedCallsApart) {
   constexpr std::size_t kCalls = 30000;
   std::string text;
   for (std::size_t i = 0; i < kCalls; ++i) text += R"(NSLocalizedString(@"k", @"c", )";
-  const SourceScan unbalanced = scan(text);
+  const ScannedSource unbalanced = scan(text);
   EXPECT_EQ(unbalanced.strings.size(), 0U);
   EXPECT_EQ(unbalanced.badCalls.size(), kCalls);
-  const SourceScan balanced = scan(text + std::string(kCalls, ')'));
+  const ScannedSource balanced = scan(text + std::string(kCalls, ')'));
   EXPECT_EQ(balanced.strings.size(), kCalls);
   EXPECT_EQ(balanced.badCalls.size(), 0U);
 }

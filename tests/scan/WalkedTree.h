@@ -41,16 +41,18 @@ class WalkedTree : private TreeWalkListener {
                           "twi;tw;Twi\rtwo;;Two\r")
                           .value();
   CancelFlag canceled;
-  TreeWalkState state;
+  ScanMemory state;
   LanguageArray languages;
   std::vector<std::string> heard;    ///< "English is en", "strings of en"
   std::vector<std::string> sources;  ///< paths
 
  private:
-  void oldLanguageName(std::string_view directoryName, const std::string& code) override {
-    heard.push_back(std::string(directoryName) + " is " + code);
+  void oldLanguageName(std::string_view directoryName, std::string_view code) override {
+    heard.push_back(std::string(directoryName) + " is " + std::string(code));
   }
-  void foundStringsFile(const Language& language) override { heard.push_back("strings of " + language.iso639()); }
+  void foundStringsFile(const Language& language, const FileUrl&) override {
+    heard.push_back("strings of " + language.iso639());
+  }
   void sourceFile(const FileUrl& file) override { sources.push_back(file.path()); }
 };
 

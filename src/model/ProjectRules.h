@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "model/IsoTable.h"
+#include "model/Language.h"
+#include "model/ScanEvents.h"
+#include "model/ScanResult.h"
+#include "platform/CancelFlag.h"
+#include "platform/Files.h"
+
+namespace glossmill {
+
+/// What reading a project works on; all of it outlives the reading.
+struct ScanInput {
+  FileReading& files;
+  const IsoTable& isoTable;
+  const CancelFlag& canceled;
+  ScanListener& listener;
+};
+
+/// What a scan leaves behind for the next one, also when it ended early.
+struct ScanMemory {
+  std::optional<FileUrl> projectPackage;       ///< that the last scan took
+  std::optional<std::string> projectFileData;  ///< nothing until a project file was read
+  std::int64_t actualDirectoryDepth = 0;     ///< directories entered so far; deliberately never lowered on the way out
+  std::shared_ptr<Language> actualLanguage;  ///< the language made last
+};
+
+enum class ScanEnd { Complete, Canceled };
+
+/// One set of rules by which projects are read and saved. Without state: any project, any thread.
+class ProjectRules {
+ public:
+  virtual ~ProjectRules() = default;
+  /// Phase one: the project's package and project file, its languages and its sources. A cancel ends it early.
+  virtual void readSources(const FileUrl& directory, const ScanInput& input, ScanMemory& memory,
+                           ScanResult& result) const = 0;
+  /// Phase two: the translations in the strings files. A cancel leaves those stored so far in place.
+  virtual ScanEnd readStringsFiles(const ScanInput& input, ScanResult& result) const = 0;
+};
+
+}  // namespace glossmill

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "model/ScanEvents.h"
+
+namespace glossmill {
+
+/// What a file is to a project.
+enum class FileRole { ProjectFile, Source, StringsFile };
+
+/// What a scan left out of one file. Counts only: a project may hold more than a million of what is counted here.
+struct FileFindings {
+  FileUrl file;
+  FileRole role = FileRole::Source;
+  std::optional<Error> unread;                                    ///< why nothing could be read of it
+  std::array<std::uint32_t, kCallRejections> rejectedCalls = {};  ///< by reason
+  std::uint32_t rejectedEntries = 0;
+  std::uint32_t unmatchedEntries = 0;  ///< no source calls their key
+};
+
+/// The findings of all files together.
+struct ScanTotals {
+  std::size_t unreadProjectFiles = 0;
+  std::size_t unreadSources = 0;
+  std::size_t unreadStringsFiles = 0;
+  std::array<std::size_t, kCallRejections> rejectedCallsBy = {};  ///< by reason
+  std::size_t rejectedCalls = 0;
+  std::size_t rejectedEntries = 0;
+  std::size_t unmatchedEntries = 0;
+};
+
+/// What a scan left out. One thread at a time.
+class ScanReport {
+ public:
+  void add(const ScanEvent& event);
+
+  /// The files of which something was left out, in the order in which they were read.
+  const std::vector<FileFindings>& files() const { return m_files; }
+  ScanTotals totals() const;
+
+ private:
+  FileFindings& findings(FileRole role, const FileUrl& file);
+
+  std::vector<FileFindings> m_files;
+};
+
+/// Counts what it hears and passes it on.
+class ReportingScanListener : public ScanListener {
+ public:
+  /// Both outlive it.
+  ReportingScanListener(ScanReport& report, ScanListener& next) : m_report(report), m_next(next) {}
+
+  void happened(const ScanEvent& event) override {
+    m_report.add(event);
+    m_next.happened(event);
+  }
+
+ private:
+  ScanReport& m_report;
+  ScanListener& m_next;
+};
+
+}  // namespace glossmill
