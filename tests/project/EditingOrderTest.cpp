@@ -74,7 +74,7 @@ TEST_F(EditingOrder, CountsNoHeldBackStringsForAStatus) {
   EXPECT_EQ(project().missingTranslations(*italian), 2U);
   project().stringController().removeAllObjects();
   EXPECT_EQ(project().languageStatusString(*italian), "Complete");
-  EXPECT_EQ(project().languageStatus(*italian), "Complete");
+  EXPECT_EQ(project().languageStatus(*italian), Status::Complete);
 }
 
 // ---- Edits and selections ----
