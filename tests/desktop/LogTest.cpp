@@ -141,6 +141,25 @@ class LogTest : public DesktopFixture {
     QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("one\ntwo\n"));
   }
 
+  void comesBackFromBeingMinimisedWithAMessage() {
+    openDemo();
+    log("one");
+    logWindow().setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+    log("two");
+    QTRY_COMPARE(logWindow().windowState() & (Qt::WindowMaximized | Qt::WindowMinimized), Qt::WindowMaximized);
+    QVERIFY(logWindow().isVisible());
+  }
+
+  void comesBackFromBeingMinimisedWithItsCommand() {
+    openDemo();
+    log("one");
+    logWindow().showMinimized();
+    command(CommandId::LogWindow).trigger();
+    QTRY_VERIFY(!logWindow().isMinimized());
+    QVERIFY(logWindow().isVisible());
+    QVERIFY(QTest::qWaitForWindowActive(&logWindow()));
+  }
+
   void closesWithTheKeyboardAndComesBackWithTheWholeText() {
     openDemo();
     program().delegate().clearLog();

@@ -17,6 +17,11 @@ void restoreFocus(QWidget& window, QWidget* before) {
 
 }  // namespace
 
+void showAgain(QWidget& window) {
+  if (window.isMinimized()) window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+}
+
 void WidgetWindow::setTitle(std::string_view title) {
   QString text = toQt(title);
   text.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
@@ -34,8 +39,7 @@ void WidgetWindow::show() {
 }
 
 void WidgetWindow::makeKeyAndOrderFront() {
-  if (m_window.isMinimized()) m_window.showNormal();
-  m_window.show();
+  showAgain(m_window);
   m_window.raise();
   m_window.activateWindow();
 }

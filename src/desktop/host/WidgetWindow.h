@@ -8,6 +8,9 @@
 
 namespace glossmill {
 
+/// Shows a window that is hidden or minimised, as large as it was before; nothing else about it changes.
+void showAgain(QWidget& window);
+
 /// A window of its own, as the program's logic sees it. The widgets outlive it.
 class WidgetWindow : public Window {
  public:

@@ -5,6 +5,7 @@
 #include <QShortcut>
 
 #include "desktop/host/QtText.h"
+#include "desktop/host/WidgetWindow.h"
 #include "desktop/look/Icons.h"
 #include "desktop/windows/WindowMemory.h"
 
@@ -59,14 +60,14 @@ void LogWindowInterface::setTitle(std::string_view title) {
 /// Asked for with every message, so many of them in a row raise the window once, at the beginning: a later moment could
 /// put it over a window that was brought to the front meanwhile.
 void LogWindowInterface::show() {
-  if (!m_widget.isVisible()) m_widget.show();
+  if (!m_widget.isVisible() || m_widget.isMinimized()) showAgain(m_widget);
   if (m_lastRaise.isValid() && !m_lastRaise.hasExpired(kRaiseInterval)) return;
   m_widget.raise();
   m_lastRaise.start();
 }
 
 void LogWindowInterface::makeKeyAndOrderFront() {
-  m_widget.show();
+  showAgain(m_widget);
   m_widget.raise();
   m_widget.activateWindow();
 }
