@@ -1,5 +1,6 @@
 #include <QFileDialog>
 #include <QProgressBar>
+#include <QToolButton>
 
 #include "desktop/DesktopFixture.h"
 #include "desktop/TestClasses.h"
@@ -48,6 +49,19 @@ class ImportingTest : public DesktopFixture {
     press(Qt::Key_Return);
     QVERIFY(!project().longJobRunning());
     QVERIFY(!isSheetUp());
+  }
+
+  void offersNoNewDirectoryInTheFilePanel() {
+    openDemo();
+    bool offersOne = true;
+    answerPanel([&offersOne](QFileDialog& panel) {
+      offersOne = panel.findChild<QToolButton*>(QStringLiteral("newFolderButton"))->isEnabled();
+      panel.reject();
+    });
+    press(Qt::Key_I, Qt::ControlModifier);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QVERIFY(!offersOne);
   }
 
   void showsTheRightRowsAfterACancelledImport() {

@@ -21,7 +21,6 @@ QString nameFilter(const std::vector<std::string>& fileTypes, const QString& lab
 void prepareForDirectory(QFileDialog& panel, const OpenPanelRequest& request) {
   panel.setFileMode(QFileDialog::Directory);
   panel.setOption(QFileDialog::ShowDirsOnly, !request.canChooseFiles);
-  panel.setOption(QFileDialog::ReadOnly, !request.canCreateDirectories);
 }
 
 QPushButton* addButton(QMessageBox& box, const std::string& title, QMessageBox::ButtonRole role) {
@@ -39,6 +38,8 @@ std::optional<FileUrl> WidgetPanels::runOpenPanel(const OpenPanelRequest& reques
     panel.setFileMode(QFileDialog::ExistingFile);
     panel.setNameFilter(nameFilter(request.fileTypes, toQt(m_bundle.localizedString("Text files"))));
   }
+  // Also keeps a person from renaming and deleting, which no open panel is there for.
+  panel.setOption(QFileDialog::ReadOnly, !request.canCreateDirectories);
   if (!request.prompt.empty()) panel.setLabelText(QFileDialog::Accept, toQt(request.prompt));
   if (!request.directory.empty()) panel.setDirectory(toQt(request.directory.path()));
   m_filePanel = &panel;
