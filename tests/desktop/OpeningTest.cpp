@@ -82,6 +82,13 @@ class OpeningTest : public DesktopFixture {
     QVERIFY(window().isVisible());
   }
 
+  void theWindowComesBackFromBeingMinimisedAsLargeAsItWas() {
+    openDemo();
+    window().setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+    command(CommandId::ProjectWindow).trigger();
+    QTRY_COMPARE(window().windowState() & (Qt::WindowMaximized | Qt::WindowMinimized), Qt::WindowMaximized);
+  }
+
   void startsThePanelAtTheMostRecentProject() {
     QSettings settings;
     settings.setValue(QStringLiteral("RecentUrls"), QStringList({demo().directory()}));
