@@ -10,7 +10,7 @@ namespace glossmill {
 
 namespace {
 
-constexpr int kFlushInterval = 50;  // milliseconds
+constexpr int kLayoutInterval = 50;  // milliseconds
 
 }  // namespace
 
@@ -22,28 +22,49 @@ LogTextEdit::LogTextEdit(QWidget* parent) : QPlainTextEdit(parent) {
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   m_timer.setSingleShot(true);
-  m_timer.setInterval(kFlushInterval);
-  connect(&m_timer, &QTimer::timeout, this, [this] { flush(); });
+  m_timer.setInterval(kLayoutInterval);
+  connect(&m_timer, &QTimer::timeout, this, [this] { layOut(); });
 }
 
-/// A text only grows at its end, unless it was emptied before.
+/// A text only grows at its end, unless it was emptied before: nothing is emptied and filled again between two calls.
 void LogTextEdit::setString(const std::string& text) {
-  m_text = &text;
-  if (text.size() < m_shown) m_isOther = true;
-  if (m_isOther) m_shown = 0;
-  if (!m_timer.isActive()) m_timer.start();
+  if (text.size() < m_shown) {
+    layOut();
+    clear();
+    m_shown = 0;
+  }
+  append(std::string_view(text).substr(m_shown));
+  m_shown = text.size();
 }
 
-void LogTextEdit::flush() {
-  if (!m_text || (!m_isOther && m_shown == m_text->size())) return;
+/// The document lays nothing out before the edit that was begun is ended.
+void LogTextEdit::append(std::string_view text) {
+  if (text.empty()) return;
+  if (!std::exchange(m_waitsForLayout, true)) {
+    m_end = QTextCursor(document());
+    m_end.movePosition(QTextCursor::End);
+    m_end.beginEditBlock();
+    m_timer.start();
+  }
+  m_end.insertText(toQt(text));
+}
+
+void LogTextEdit::layOut() {
+  if (!std::exchange(m_waitsForLayout, false)) return;
   m_timer.stop();
   const bool follow = isAtEnd();
-  if (std::exchange(m_isOther, false)) clear();
-  QTextCursor end(document());
-  end.movePosition(QTextCursor::End);
-  end.insertText(toQt(std::string_view(*m_text).substr(m_shown)));
-  m_shown = m_text->size();
+  m_end.endEditBlock();
   if (follow) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+bool LogTextEdit::event(QEvent* event) {
+  layOut();
+  return QPlainTextEdit::event(event);
+}
+
+bool LogTextEdit::viewportEvent(QEvent* event) {
+  layOut();
+  return QPlainTextEdit::viewportEvent(event);
 }
 
 bool LogTextEdit::isAtEnd() const {
@@ -59,7 +80,7 @@ bool LogTextEdit::findPrevious(const QString& text) {
 }
 
 bool LogTextEdit::findAround(const QString& text, QTextDocument::FindFlags flags, QTextCursor::MoveOperation from) {
-  flush();
+  layOut();
   if (text.isEmpty()) return false;
   if (find(text, flags)) return true;
   const QTextCursor before = textCursor();
