@@ -24,7 +24,7 @@ void StringSearch::search(std::string_view text) {
   arrange();
 }
 
-void StringSearch::languageChanged() {
+void StringSearch::translationsChanged() {
   m_translations.forget();
   if (m_wanted.empty()) return;
   m_kept = m_project.selectedString();

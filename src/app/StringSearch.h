@@ -18,8 +18,9 @@ class StringSearch {
 
   /// All strings for the empty text. The selected string stays selected if it is still there, else the first one is.
   void search(std::string_view text);
-  /// The selected string stays in the table, whatever its translation in the new language.
-  void languageChanged();
+  /// Other translations are to be searched: those of another language, or what a job has made of them. The selected
+  /// string stays in the table, whatever its translation is now.
+  void translationsChanged();
   void stringsChanged();
   void translationEdited();
 

@@ -41,6 +41,27 @@ class ImportingTest : public DesktopFixture {
     QVERIFY(!window().isWindowModified());
   }
 
+  void findsWhatWasImported() {
+    openDemo();
+    select(languages(), QStringLiteral("de"));
+    search().setText(QStringLiteral("nacht"));
+    QCOMPARE(strings().model()->rowCount(), 0);
+    search().clear();
+    importGerman("\n--- 4 ---\n/* */\nGood night\nGute Nacht\n\n");
+    waitForJob();
+    search().setText(QStringLiteral("nacht"));
+    QCOMPARE(firstColumn(strings()), QStringList({QStringLiteral("Good night")}));
+  }
+
+  void findsWhatWasImportedWhileASearchStands() {
+    openDemo();
+    select(languages(), QStringLiteral("de"));
+    search().setText(QStringLiteral("nacht"));
+    importGerman("\n--- 4 ---\n/* */\nGood night\nGute Nacht\n\n");
+    waitForJob();
+    QCOMPARE(firstColumn(strings()), QStringList({QStringLiteral("Good night")}));
+  }
+
   void importsNothingWhenTheFilePanelIsCancelled() {
     openDemo();
     answerPanel([](QFileDialog& panel) { panel.reject(); });
@@ -72,6 +93,9 @@ class ImportingTest : public DesktopFixture {
     }
     openDemo();
     select(languages(), QStringLiteral("de"));
+    search().setText(QStringLiteral("text 0"));
+    QCOMPARE(strings().model()->rowCount(), 0);
+    search().clear();
     importGerman(text);
     QVERIFY(waitBriefly([this] { return project().stringList()[5]->languagesDict().contains(LanguageCode("de")); }));
     click(inSheet<QPushButton>("cancelButton"));
@@ -79,6 +103,8 @@ class ImportingTest : public DesktopFixture {
     QVERIFY(!isSheetUp());
     QCOMPARE(cell(strings(), QStringLiteral("string 0"), 1), QStringLiteral("Text 0"));
     QCOMPARE(cell(strings(), QStringLiteral("string 19999"), 1), QString());
+    search().setText(QStringLiteral("text 0"));
+    QCOMPARE(firstColumn(strings()), QStringList({QStringLiteral("string 0")}));
     worksLikeBefore();
   }
 

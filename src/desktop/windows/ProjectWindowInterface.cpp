@@ -102,7 +102,7 @@ void ProjectWindowInterface::stringsChanged(ArrayChange change) {
 void ProjectWindowInterface::languagesChanged(ArrayChange change) {
   m_languages.languagesChanged(change);
   m_project.languageSelectionDidChange();
-  m_strings.languageSelected();
+  m_strings.translationsChanged();
   m_details.languageSelected();
   m_shell.actions.validateSoon();
 }
@@ -110,6 +110,7 @@ void ProjectWindowInterface::languagesChanged(ArrayChange change) {
 void ProjectWindowInterface::sheetsChanged() {
   m_shell.actions.setCovered(m_shell.sheets.isUp());
   if (m_shell.sheets.isUp()) return;
+  m_strings.translationsChanged();
   m_strings.table().settle();
   m_languages.table().settle();
   if (!m_mainWindow.focusWidget()) m_widgets.stringTableView->setFocus();

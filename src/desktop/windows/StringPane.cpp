@@ -45,8 +45,8 @@ void StringPane::stringsChanged(ArrayChange change) {
   if (change != ArrayChange::Selection) showCount();
 }
 
-void StringPane::languageSelected() {
-  m_search.languageChanged();
+void StringPane::translationsChanged() {
+  m_search.translationsChanged();
   m_table.redraw();
 }
 

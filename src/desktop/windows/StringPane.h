@@ -26,7 +26,8 @@ class StringPane {
   RecordTable& table() { return m_table; }
   PopUpButton& filterPopUp() { return m_filter; }
   void stringsChanged(ArrayChange change);
-  void languageSelected();
+  /// Another language was selected, or a job is over.
+  void translationsChanged();
   void translationEdited();
   void focusSearch();
   /// Escape in the search field: empties it, or leaves it when it is empty.
