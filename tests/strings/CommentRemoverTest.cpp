@@ -92,6 +92,22 @@ TEST(CommentRemover, DoesNotCloseABlockCommentAtASwallowedStar) {
   EXPECT_EQ(removeComments("/* a ***/c"), "c");
 }
 
+TEST(CommentRemover, ClosesABlockCommentAtTheSlashAfterAnUnpairedStarOnly) {
+  struct Case {
+    std::string stars;
+    const char* directly;  ///< what is left of "/<stars>/x*/y"
+    const char* inText;    ///< what is left of "/* <stars>/x*/y"
+  };
+  const std::vector<Case> cases = {
+      {"*", "y", "x*"}, {"**", "x*", "y"}, {"***", "y", "x*"}, {"****", "x*", "y"}, {"*****", "y", "x*"},
+  };
+  for (const Case& one : cases) {
+    EXPECT_EQ(removeComments("/" + one.stars + "/x*/y"), one.directly) << one.stars;
+    EXPECT_EQ(removeComments("/* " + one.stars + "/x*/y"), one.inText) << one.stars;
+  }
+  EXPECT_EQ(removeComments("/* *** */a"), "a");
+}
+
 TEST(CommentRemover, DoesNotCloseABlockCommentAtItsOpeningStar) {
   EXPECT_EQ(removeComments("/*/ a */b"), "b");
 }

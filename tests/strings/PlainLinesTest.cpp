@@ -80,6 +80,9 @@ TEST(PlainComment, EndsBehindStarAndSlash) {
 TEST(PlainComment, GoesOnBehindAStarThatTakesTheNextWithIt) {
   EXPECT_EQ(endOfPlainComment("/* **/ */", 0), 9U);
   EXPECT_EQ(endOfPlainComment("/***/", 0), 0U);
+  EXPECT_EQ(endOfPlainComment("/***/ */", 0), 8U);
+  EXPECT_EQ(endOfPlainComment("/****/ */", 0), 6U);
+  EXPECT_EQ(endOfPlainComment("/* ***/ */", 0), 7U);
 }
 
 TEST(PlainComment, IsNoneWithoutItsEnd) {
