@@ -10,7 +10,9 @@
 #include "cli/ExitCode.h"
 #include "cli/ExportCommand.h"
 #include "cli/FillCommand.h"
+#include "cli/HistoryCommand.h"
 #include "cli/ImportCommand.h"
+#include "cli/RestoreCommand.h"
 #include "cli/SaveCommand.h"
 #include "cli/ScanCommand.h"
 #include "cli/StatusCommand.h"
@@ -45,6 +47,8 @@ void addEverything(CLI::App& program, TypedCommand& typed) {
   addImportCommand(program, typed);
   addFillCommand(program, typed);
   addAddLanguageCommand(program, typed);
+  addHistoryCommand(program, typed);
+  addRestoreCommand(program, typed);
   program.footer(program.get_footer() + kExitCodes);
 }
 

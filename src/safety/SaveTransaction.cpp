@@ -31,7 +31,7 @@ FileUrl resolvedOr(SaveDisk& disk, const FileUrl& url) {
 }  // namespace
 
 SaveTransaction::SaveTransaction(Files& files, SaveDisk& disk, const SaveOrder& order)
-    : m_files(files), m_disk(disk), m_order(order), m_versions(files, disk, resolvedOr(disk, order.project)) {}
+    : m_files(files), m_disk(disk), m_order(order), m_versions(files, disk, order.project) {}
 
 SaveResult SaveTransaction::save(const std::vector<FileText>& texts) {
   m_result = {};

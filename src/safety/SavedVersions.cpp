@@ -7,6 +7,7 @@
 
 #include "platform/ReadText.h"
 #include "safety/FileContent.h"
+#include "safety/ProjectState.h"
 
 namespace glossmill {
 
@@ -45,23 +46,15 @@ std::string timeText(std::int64_t time) {
 }
 
 SavedVersions::SavedVersions(Files& files, SaveDisk& disk, const FileUrl& project)
-    : m_files(files),
-      m_disk(disk),
-      m_name(std::string(project.lastPathComponent()) + "-" + contentHashOf(project.path()).text()) {}
-
-Result<FileUrl> SavedVersions::directory() {
-  const Result<FileUrl> state = m_disk.stateDirectory();
-  return state ? Result<FileUrl>(state.value().appending("projects").appending(m_name)) : state;
-}
+    : m_files(files), m_disk(disk), m_directory(stateDirectoryOf(disk, project)) {}
 
 Result<FileUrl> SavedVersions::directoryOf(std::string_view id) {
-  const Result<FileUrl> all = directory();
-  return all ? Result<FileUrl>(all.value().appending("saves").appending(id)) : all;
+  return m_directory ? Result<FileUrl>(m_directory.value().appending("saves").appending(id)) : m_directory;
 }
 
 Result<FileUrl> SavedVersions::fileOf(const ContentHash& hash) {
-  const Result<FileUrl> all = directory();
-  return all ? Result<FileUrl>(all.value().appending("contents").appending(hash.text())) : all;
+  if (!m_directory) return m_directory;
+  return m_directory.value().appending("contents").appending(hash.text());
 }
 
 Outcome SavedVersions::keepContent(const FileUrl& file, const ContentHash& hash) {
@@ -129,9 +122,8 @@ std::optional<SavedVersion> SavedVersions::versionIn(const std::string& id) {
 
 std::vector<SavedVersion> SavedVersions::list() {
   std::vector<SavedVersion> versions;
-  const Result<FileUrl> all = directory();
-  if (!all) return versions;
-  const auto entries = m_files.list(all.value().appending("saves"));
+  if (!m_directory) return versions;
+  const auto entries = m_files.list(m_directory.value().appending("saves"));
   if (!entries) return versions;
   for (const DirectoryEntry& entry : entries.value()) {
     std::optional<SavedVersion> version = versionIn(entry.name);
@@ -175,9 +167,8 @@ void SavedVersions::forgetOld(std::int64_t now, const VersionLimits& limits) {
 }
 
 void SavedVersions::removeContentsBut(const std::vector<std::string>& needed) {
-  const Result<FileUrl> all = directory();
-  if (!all) return;
-  const FileUrl contents = all.value().appending("contents");
+  if (!m_directory) return;
+  const FileUrl contents = m_directory.value().appending("contents");
   const auto entries = m_files.list(contents);
   if (!entries) return;
   for (const DirectoryEntry& entry : entries.value()) {

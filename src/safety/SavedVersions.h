@@ -30,7 +30,7 @@ struct VersionLimits {
 /// files, equal ones once. Main thread. Errors name what could not be done.
 class SavedVersions {
  public:
-  /// `project` is the opened directory, links followed; both disks outlive this.
+  /// `project` is the opened directory; both disks outlive this.
   SavedVersions(Files& files, SaveDisk& disk, const FileUrl& project);
 
   /// Copies what the file holds now, which must have this hash, unless it is kept already.
@@ -50,7 +50,6 @@ class SavedVersions {
   void forgetOld(std::int64_t now, const VersionLimits& limits);
 
  private:
-  Result<FileUrl> directory();
   Result<FileUrl> directoryOf(std::string_view id);
   Result<FileUrl> fileOf(const ContentHash& hash);
   std::optional<SavedVersion> versionIn(const std::string& id);
@@ -59,7 +58,7 @@ class SavedVersions {
 
   Files& m_files;
   SaveDisk& m_disk;
-  std::string m_name;
+  Result<FileUrl> m_directory;
 };
 
 /// "2026-11-21T16-05-00Z", for a time in seconds since 1970.

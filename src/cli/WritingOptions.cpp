@@ -1,0 +1,77 @@
+#include "cli/WritingOptions.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+#include "cli/Paths.h"
+
+namespace glossmill {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds kBetweenTries{50};
+
+std::string allowanceFor(SaveRefusal::Kind kind) {
+  switch (kind) {
+    case SaveRefusal::Kind::Outside:
+      return "outside";
+    case SaveRefusal::Kind::Changed:
+      return "changed";
+    case SaveRefusal::Kind::NoCopy:
+      break;
+  }
+  return "no-copy";
+}
+
+}  // namespace
+
+bool WritingOptions::allows(const std::string& what) const {
+  return std::find(allowed.begin(), allowed.end(), what) != allowed.end();
+}
+
+SaveAllowance WritingOptions::allowance() const {
+  return {allows("outside"), allows("changed"), allows("no-copy")};
+}
+
+void addWritingOptions(CLI::App& command, WritingOptions& options) {
+  command
+      .add_option("--allow", options.allowed,
+                  "Write all the same: incomplete, outside, changed or no-copy; may be repeated")
+      ->allow_extra_args(false)
+      ->check(CLI::IsMember({"incomplete", "outside", "changed", "no-copy"}))
+      ->option_text("WHAT");
+  command.add_option("--wait", options.waitSeconds, "How long to wait for another program that writes; 10 s")
+      ->check(CLI::NonNegativeNumber)
+      ->option_text("SECONDS");
+}
+
+ExitCode takeLock(ProjectLock& lock, const FileUrl& project, const WritingOptions& options, Console& console) {
+  const auto patience = std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(options.waitSeconds));
+  const Clock::time_point end = Clock::now() + patience;
+  const auto held = lock.acquire([end] {
+    if (Clock::now() >= end) return false;
+    std::this_thread::sleep_for(kBetweenTries);
+    return true;
+  });
+  if (!held) {
+    console.error("cannot lock \"" + project.path() + "\": " + held.error().sentence);
+    return ExitCode::Unusable;
+  }
+  if (!held.value()) return ExitCode::Fine;
+  const std::string who = held.value()->by ? "process " + std::to_string(*held.value()->by) : "another process";
+  console.error("\"" + project.path() + "\" is being written by " + who + "; nothing was done");
+  return ExitCode::Unusable;
+}
+
+void explainRefusal(const SaveRefusal& refusal, const FileUrl& project, Console& console) {
+  for (const SaveRefusal::Place& place : refusal.places) {
+    console.error("not written: \"" + std::string(shownPath(project, place.file)) + "\": " + place.sentence);
+  }
+  console.error("nothing was written; to write all the same: --allow " + allowanceFor(refusal.kind));
+}
+
+}  // namespace glossmill
