@@ -39,9 +39,8 @@ ExitCode addLanguageToProject(ProjectSession& session, const AddLanguageOptions&
 
 ExitCode addNewLanguage(const AddLanguageOptions& options, Console& console) {
   ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun)});
-  const ExitCode opened = session.open(options.directory);
+  const ExitCode opened = session.openPackage(options.directory);
   if (opened != ExitCode::Fine) return opened;
-  if (!session.requirePackage()) return ExitCode::Unusable;
   if (!session.project().iso639Dict().nameOf(options.code)) {
     console.error("\"" + options.code + "\" is no language code of ISO 639");
     return ExitCode::WrongUsage;

@@ -41,9 +41,8 @@ std::string closingText(std::size_t incomplete, std::size_t all) {
 
 ExitCode check(const CheckOptions& options, Console& console) {
   ProjectSession session(console, {});
-  const ExitCode opened = session.open(options.directory);
+  const ExitCode opened = session.openPackage(options.directory, ExitCode::CheckFailed);
   if (opened != ExitCode::Fine) return opened;
-  if (!session.requirePackage()) return ExitCode::CheckFailed;
   const std::optional<LanguageArray> languages = chosenLanguages(session, options.languages);
   if (!languages) return ExitCode::WrongUsage;
   const LanguageArray incomplete = incompleteOf(session, *languages);

@@ -38,9 +38,8 @@ std::optional<LanguageArray> chosenLanguages(const ProjectSession& session, cons
 }
 
 OpenedLanguage openLanguage(ProjectSession& session, const std::string& directory, const std::string& code) {
-  const ExitCode opened = session.open(directory);
+  const ExitCode opened = session.openPackage(directory);
   if (opened != ExitCode::Fine) return {opened, nullptr};
-  if (!session.requirePackage()) return {ExitCode::Unusable, nullptr};
   const std::optional<LanguageArray> chosen = chosenLanguages(session, {code});
   if (!chosen) return {ExitCode::WrongUsage, nullptr};
   return {ExitCode::Fine, chosen->front()};

@@ -1,8 +1,6 @@
 #include "cli/ProjectJson.h"
 
-#include <nlohmann/json.hpp>
-
-#include "cli/JsonText.h"
+#include "cli/JsonValues.h"
 
 namespace glossmill {
 
@@ -10,8 +8,6 @@ namespace {
 
 Json stringJson(const ProjectSession& session, const LocalizeString& record) {
   const ProjectWindowController& project = session.project();
-  Json files = Json::array();
-  for (const FileUrl& file : record.filesArray()) files.push_back(jsonPath(session, file));
   Json translations = Json::object();
   // Codes come in the order of the languages, each once: the search for an earlier one is spared.
   auto& entries = translations.get_ref<Json::object_t&>();
@@ -21,7 +17,7 @@ Json stringJson(const ProjectSession& session, const LocalizeString& record) {
   return {{"name", record.name()},
           {"useCount", record.useCount()},
           {"comments", record.commentArray()},
-          {"files", std::move(files)},
+          {"files", filesJson(session, record.filesArray())},
           {"translations", std::move(translations)},
           {"status", project.statusTexts().textOf(record.status(&project))},
           {"statusString", record.statusString(project.statusTexts(), &project)}};

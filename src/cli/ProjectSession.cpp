@@ -75,6 +75,13 @@ ExitCode ProjectSession::open(const std::string& directory) {
   return finishJob();
 }
 
+ExitCode ProjectSession::openPackage(const std::string& directory, ExitCode without) {
+  const ExitCode opened = open(directory);
+  if (opened != ExitCode::Fine || project().projectPackage()) return opened;
+  m_console.error("there is no Xcode project in " + inQuotes(project().projectDirectory().path()));
+  return without;
+}
+
 ExitCode ProjectSession::finishJob() {
   m_jobStart = Clock::now();
   m_host.runUntilIdle([this] { tick(); });
@@ -82,12 +89,6 @@ ExitCode ProjectSession::finishJob() {
   if (!interrupted()) return ExitCode::Fine;
   m_console.error("Canceled.");
   return ExitCode::Interrupted;
-}
-
-bool ProjectSession::requirePackage() const {
-  if (project().projectPackage()) return true;
-  m_console.error("there is no Xcode project in " + inQuotes(project().projectDirectory().path()));
-  return false;
 }
 
 ExitCode ProjectSession::saveProject() {

@@ -27,10 +27,10 @@ class ProjectSession {
 
   /// Opens the project in the directory and waits for the scan. Anything but Fine has been explained on the console.
   ExitCode open(const std::string& directory);
+  /// The same for a directory that has to hold a package; `without` when there is none.
+  ExitCode openPackage(const std::string& directory, ExitCode without = ExitCode::Unusable);
   /// Waits for the long job that was just started; Interrupted when Ctrl+C was pressed meanwhile.
   ExitCode finishJob();
-  /// False when the directory holds no package, which is explained on the console.
-  bool requirePackage() const;
   /// Saves every language and prints what became of each file; Unusable when one could not be written.
   ExitCode saveProject();
 

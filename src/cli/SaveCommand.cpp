@@ -15,9 +15,8 @@ struct SaveOptions {
 
 ExitCode save(const SaveOptions& options, Console& console) {
   ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun)});
-  const ExitCode opened = session.open(options.directory);
+  const ExitCode opened = session.openPackage(options.directory);
   if (opened != ExitCode::Fine) return opened;
-  if (!session.requirePackage()) return ExitCode::Unusable;
   return session.saveProject();
 }
 

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "cli/DisplayText.h"
-#include "cli/JsonText.h"
+#include "cli/JsonValues.h"
 #include "cli/LanguageChoice.h"
 #include "cli/LanguageTable.h"
 #include "cli/Paths.h"
@@ -30,9 +30,9 @@ void eachMissing(const ProjectSession& session, const Language& language, Visit 
 Json missingJson(const ProjectSession& session, const Language& language) {
   Json missing = Json::array();
   eachMissing(session, language, [&](const LocalizeString& record) {
-    Json files = Json::array();
-    for (const FileUrl& file : record.filesArray()) files.push_back(jsonPath(session, file));
-    missing.push_back({{"name", record.name()}, {"comments", record.commentArray()}, {"files", std::move(files)}});
+    missing.push_back({{"name", record.name()},
+                       {"comments", record.commentArray()},
+                       {"files", filesJson(session, record.filesArray())}});
   });
   return missing;
 }

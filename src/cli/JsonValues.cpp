@@ -1,4 +1,4 @@
-#include "cli/JsonText.h"
+#include "cli/JsonValues.h"
 
 #include "cli/Paths.h"
 
@@ -6,42 +6,21 @@ namespace glossmill {
 
 namespace {
 
-constexpr std::size_t kMostHeld = 1 << 20;
-
 Json textOrNull(const std::optional<std::string>& text) {
   return text ? Json(*text) : Json();
 }
 
 }  // namespace
 
-void JsonWriter::member(std::string_view memberName, const Json& memberValue) {
-  name(memberName);
-  value(memberValue);
-}
-
-void JsonWriter::end() {
-  m_text += m_isFirst ? "{}\n" : "\n}\n";
-  m_console.data(m_text);
-  m_text.clear();
-}
-
-void JsonWriter::name(std::string_view memberName) {
-  m_text += m_isFirst ? "{\n  " : ",\n  ";
-  m_isFirst = false;
-  value(memberName);
-  m_text += ": ";
-}
-
-void JsonWriter::value(const Json& value) {
-  m_text += value.dump(-1, ' ', false, Json::error_handler_t::replace);
-  if (m_text.size() < kMostHeld) return;
-  m_console.data(m_text);
-  m_text.clear();
-}
-
 Json jsonPath(const ProjectSession& session, const FileUrl& url) {
   const std::string_view path = pathBelow(session.project().projectDirectory(), url);
   return path.empty() ? "." : path;
+}
+
+Json filesJson(const ProjectSession& session, const std::vector<FileUrl>& files) {
+  Json paths = Json::array();
+  for (const FileUrl& file : files) paths.push_back(jsonPath(session, file));
+  return paths;
 }
 
 Json packageJson(const ProjectSession& session) {

@@ -2,9 +2,10 @@
 
 #include <cstddef>
 #include <nlohmann/json.hpp>
+#include <string>
 #include <string_view>
 
-#include "cli/ProjectSession.h"
+#include "cli/Console.h"
 
 namespace glossmill {
 
@@ -25,7 +26,6 @@ class JsonWriter {
  private:
   void name(std::string_view name);
   void value(const Json& value);
-  void passOn();
 
   Console& m_console;
   std::string m_text;
@@ -42,13 +42,5 @@ void JsonWriter::list(std::string_view listName, std::size_t count, ValueAt valu
   }
   m_text += count == 0 ? "]" : "\n  ]";
 }
-
-/// The path below the project directory, "." for the directory itself.
-Json jsonPath(const ProjectSession& session, const FileUrl& url);
-
-/// The path of the project's package, or null.
-Json packageJson(const ProjectSession& session);
-
-Json languageJson(const ProjectSession& session, const Language& language);
 
 }  // namespace glossmill
