@@ -5,9 +5,8 @@
 namespace glossmill::bench {
 
 HeadlessProject::HeadlessProject(const std::string& directory) : m_delegate(m_host.parts()) {
-  m_host.panels.answerOpenPanel = [](const OpenPanelRequest& request) { return request.directory; };
   m_delegate.openProjectWindow();
-  controller().openProject(FileUrl(directory));
+  controller().openProjectAt(FileUrl(directory));
   m_host.runUntilIdle();
   if (!controller().opened() || controller().stringList().empty() || controller().languagesList()->empty()) {
     giveUp("there is no project with strings and languages in " + directory);

@@ -50,7 +50,6 @@ ProjectSession::ProjectSession(Console& console, Options options)
       m_files(m_host.files, options.files),
       m_delegate(keptDelegate(hostParts())) {
   catchInterrupt();
-  m_host.panels.answerOpenPanel = [](const OpenPanelRequest& request) { return request.directory; };
   m_host.panels.answerAlert = [this](const AlertRequest& alert) { return answerAlert(alert); };
   m_host.systemLog.onLine = [this](std::string_view line) { takeSystemLogLine(line); };
   if (!console.isQuiet()) {
@@ -71,7 +70,7 @@ ExitCode ProjectSession::open(const std::string& directory) {
     return ExitCode::Unusable;
   }
   m_delegate->openProjectWindow();
-  project().openProject(url);
+  project().openProjectAt(url);
   return finishJob();
 }
 

@@ -2,12 +2,12 @@
 
 namespace glossmill {
 
-std::optional<FileUrl> HeadlessPanels::runOpenPanel(const OpenPanelRequest& request) {
-  return answerOpenPanel ? answerOpenPanel(request) : std::nullopt;
+std::optional<FileUrl> HeadlessPanels::runOpenPanel(const OpenPanelRequest&) {
+  return std::nullopt;
 }
 
-void HeadlessPanels::beginSavePanel(const SavePanelRequest& request, std::function<void(std::optional<FileUrl>)> done) {
-  done(answerSavePanel ? answerSavePanel(request) : std::nullopt);
+void HeadlessPanels::beginSavePanel(const SavePanelRequest&, std::function<void(std::optional<FileUrl>)> done) {
+  done(std::nullopt);
 }
 
 AlertAnswer HeadlessPanels::runAlert(const AlertRequest& request) {

@@ -7,8 +7,8 @@
 
 namespace glossmill {
 
-/// Panels and alerts whose answers the owner gives. Without an answer open and save panels are cancelled and an alert
-/// ends with its default button.
+/// Nobody is there to answer: panels are cancelled, and an alert ends with its default button unless the owner answers
+/// it.
 class HeadlessPanels : public Panels {
  public:
   std::optional<FileUrl> runOpenPanel(const OpenPanelRequest& request) override;
@@ -16,8 +16,6 @@ class HeadlessPanels : public Panels {
   void beginSavePanel(const SavePanelRequest& request, std::function<void(std::optional<FileUrl>)> done) override;
   AlertAnswer runAlert(const AlertRequest& request) override;
 
-  std::function<std::optional<FileUrl>(const OpenPanelRequest&)> answerOpenPanel;
-  std::function<std::optional<FileUrl>(const SavePanelRequest&)> answerSavePanel;
   std::function<AlertAnswer(const AlertRequest&)> answerAlert;
 };
 
