@@ -6,7 +6,7 @@
 namespace glossmill {
 namespace {
 
-const FileUrl kProject("/x/App");
+const FileUrl kLockedProject("/x/App");
 
 class ProjectLockTest : public testing::Test {
  protected:
@@ -18,9 +18,9 @@ class ProjectLockTest : public testing::Test {
 };
 
 TEST_F(ProjectLockTest, TheSecondHearsWhoHoldsIt) {
-  ProjectLock first(files, disk, kProject);
+  ProjectLock first(files, disk, kLockedProject);
   ASSERT_FALSE(first.acquire(never).value());
-  ProjectLock second(files, disk, kProject);
+  ProjectLock second(files, disk, kLockedProject);
   const auto held = second.acquire(never);
   ASSERT_TRUE(held && held.value());
   EXPECT_EQ(held.value()->by, 7);
@@ -28,9 +28,9 @@ TEST_F(ProjectLockTest, TheSecondHearsWhoHoldsIt) {
 }
 
 TEST_F(ProjectLockTest, ItIsTriedAgainAsLongAsSomebodyWantsToWait) {
-  auto first = std::make_unique<ProjectLock>(files, disk, kProject);
+  auto first = std::make_unique<ProjectLock>(files, disk, kLockedProject);
   ASSERT_FALSE(first->acquire(never).value());
-  ProjectLock second(files, disk, kProject);
+  ProjectLock second(files, disk, kLockedProject);
   int tries = 0;
   const auto held = second.acquire([&] {
     if (++tries == 3) first.reset();
@@ -42,16 +42,16 @@ TEST_F(ProjectLockTest, ItIsTriedAgainAsLongAsSomebodyWantsToWait) {
 }
 
 TEST_F(ProjectLockTest, ItEndsWithItsObject) {
-  { ASSERT_FALSE(ProjectLock(files, disk, kProject).acquire(never).value()); }
+  { ASSERT_FALSE(ProjectLock(files, disk, kLockedProject).acquire(never).value()); }
   EXPECT_FALSE(disk.holdsLock());
-  EXPECT_FALSE(ProjectLock(files, disk, kProject).acquire(never).value());
+  EXPECT_FALSE(ProjectLock(files, disk, kLockedProject).acquire(never).value());
 }
 
 TEST_F(ProjectLockTest, WithoutAStateDirectoryItHoldsAndNobodyKnowsByWhom) {
   disk.setStateDirectory(std::nullopt);
-  ProjectLock first(files, disk, kProject);
+  ProjectLock first(files, disk, kLockedProject);
   ASSERT_FALSE(first.acquire(never).value());
-  ProjectLock second(files, disk, kProject);
+  ProjectLock second(files, disk, kLockedProject);
   EXPECT_EQ(second.acquire(never).value()->by, std::nullopt);
 }
 
