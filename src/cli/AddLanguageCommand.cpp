@@ -32,7 +32,7 @@ bool isNewLanguage(const ProjectSession& session, const std::string& code) {
 ExitCode addLanguageToProject(ProjectSession& session, const AddLanguageOptions& options) {
   const std::shared_ptr<Language> added = session.project().addLanguage(options.code);
   if (!added) return ExitCode::Unusable;
-  const bool saved = !options.save || session.project().saveLanguage(*added);
+  const bool saved = !options.save || session.project().saveLanguage(added);
   session.reportFiles();
   return saved ? ExitCode::Fine : ExitCode::Unusable;
 }

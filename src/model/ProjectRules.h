@@ -7,6 +7,7 @@
 
 #include "model/IsoTable.h"
 #include "model/Language.h"
+#include "model/LanguageTexts.h"
 #include "model/ScanEvents.h"
 #include "model/ScanResult.h"
 #include "platform/CancelFlag.h"
@@ -41,6 +42,9 @@ class ProjectRules {
                            ScanResult& result) const = 0;
   /// Phase two: the translations in the strings files. A cancel leaves those stored so far in place.
   virtual ScanEnd readStringsFiles(const ScanInput& input, ScanResult& result) const = 0;
+  /// How strings files are written: their texts for these languages. The records are kept alive by it.
+  virtual std::unique_ptr<LanguageTexts> languageTexts(const StringArray& records,
+                                                       const LanguageArray& languages) const = 0;
 };
 
 }  // namespace glossmill

@@ -2,6 +2,7 @@
 
 #include "scan/ParseFileList.h"
 #include "scan/ParseLocalizableStrings.h"
+#include "strings/StringsFileWriter.h"
 
 namespace glossmill {
 
@@ -12,6 +13,13 @@ void ClassicRules::readSources(const FileUrl& directory, const ScanInput& input,
 
 ScanEnd ClassicRules::readStringsFiles(const ScanInput& input, ScanResult& result) const {
   return parseLocalizableStringsList(input, result);
+}
+
+std::unique_ptr<LanguageTexts> ClassicRules::languageTexts(const StringArray& records,
+                                                           const LanguageArray& languages) const {
+  std::vector<LanguageCode> codes;
+  for (const std::shared_ptr<Language>& language : languages) codes.push_back(language->code());
+  return std::make_unique<StringsFileTexts>(records, codes);
 }
 
 }  // namespace glossmill

@@ -10,6 +10,8 @@ class ClassicRules : public ProjectRules {
   void readSources(const FileUrl& directory, const ScanInput& input, ScanMemory& memory,
                    ScanResult& result) const override;
   ScanEnd readStringsFiles(const ScanInput& input, ScanResult& result) const override;
+  std::unique_ptr<LanguageTexts> languageTexts(const StringArray& records,
+                                               const LanguageArray& languages) const override;
 };
 
 }  // namespace glossmill

@@ -26,7 +26,7 @@
 
 namespace glossmill {
 
-class StringsFileTexts;
+struct SaveOutcome;
 
 /// Owns the open project for its whole life and offers its operations: the rules are in modules, this class asks the
 /// host, calls one module, adopts the result and tells the window. Main thread, but for the operations marked
@@ -136,7 +136,7 @@ class ProjectWindowController : public ProjectContext,
 
   // ---- Saving and closing: ProjectWindowControllerSaving.cpp ----
 
-  bool saveLanguage(Language& language);
+  bool saveLanguage(const std::shared_ptr<Language>& language);
   /// Every language is tried; afterwards the project counts as saved, also when one failed. True when all were written.
   bool saveProject();
   void saveProjectButton() { saveProject(); }
@@ -202,8 +202,8 @@ class ProjectWindowController : public ProjectContext,
   void holdBackCompleteStrings();
   void giveBackStrings();
   void step(const std::function<void()>& select);
-  bool saveLanguageFrom(StringsFileTexts& texts, Language& language);
-  bool createStringsDirectory(const Language& language);
+  bool save(const LanguageArray& languages);
+  void tellOfSave(const SaveOutcome& outcome);
 
   void showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name);
   void chooseExportFile(std::shared_ptr<Language> language, bool allStrings);

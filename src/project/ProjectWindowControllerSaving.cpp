@@ -1,57 +1,44 @@
+#include "edit/ProjectSaver.h"
 #include "project/ProjectWindowController.h"
-#include "strings/StringsFileWriter.h"
 #include "text/Format.h"
 
 namespace glossmill {
 
-bool ProjectWindowController::saveLanguage(Language& language) {
-  StringsFileTexts texts(stringList(), {language.code()});
-  return saveLanguageFrom(texts, language);
-}
-
-bool ProjectWindowController::saveLanguageFrom(StringsFileTexts& texts, Language& language) {
-  if (language.urlDepth() != Language::kStringsFile) {
-    language.setLocalizedStringUrl(language.localizedStringUrl().appending("Localizable.strings"));
-    language.setUrlDepth(Language::kStringsFile);
-  }
-  const FileUrl& file = language.localizedStringUrl();
-  if (m_host.files.kindOf(file) == EntryKind::Missing && !createStringsDirectory(language)) return false;
-
-  const bool existed = m_host.files.kindOf(file) != EntryKind::Missing;
-  texts.start(language.code());
-  const Outcome written = m_host.files.writeTextPieces(file, [&texts] { return texts.nextPiece(); });
-  if (!written) {
-    runOkAlert(formatText(localized("Error saving Localizable.strings for language %@"), {language.description()}));
-    systemLog(formatText("Error %@ writing file: %@", {written.error().sentence, file.text()}));
-    return false;
-  }
-  if (!existed) {
-    runOkAlert(formatText(localized("Created new Localizable.strings for language %@ at:\n\n%@\n\nYou must add this "
-                                    "file to your Xcode project bundle!"),
-                          {language.description(), file.text()}));
-  }
-  return true;
-}
-
-bool ProjectWindowController::createStringsDirectory(const Language& language) {
-  const FileUrl& file = language.localizedStringUrl();
-  const Outcome created = m_host.files.createDirectory(file.parent(), true);
-  if (created) return true;
-  runOkAlert(formatText(localized("Error creating %@ for language %@"), {file.text(), language.description()}));
-  systemLog(formatText("Error %@ creating directory %@", {created.error().sentence, file.text()}));
-  return false;
+bool ProjectWindowController::saveLanguage(const std::shared_ptr<Language>& language) {
+  return save({language});
 }
 
 bool ProjectWindowController::saveProject() {
-  std::vector<LanguageCode> languages;
-  for (const std::shared_ptr<Language>& language : *languagesList()) languages.push_back(language->code());
-  StringsFileTexts texts(stringList(), languages);
-  bool allWritten = true;
-  for (const std::shared_ptr<Language>& language : *languagesList()) {
-    if (!saveLanguageFrom(texts, *language)) allWritten = false;
-  }
+  const bool allWritten = save(*languagesList());
   setChanged(false);
   return allWritten;
+}
+
+bool ProjectWindowController::save(const LanguageArray& languages) {
+  const std::unique_ptr<LanguageTexts> texts = m_rules->languageTexts(stringList(), languages);
+  return saveLanguages(m_host.files, *texts, languages, [this](const SaveOutcome& outcome) { tellOfSave(outcome); });
+}
+
+void ProjectWindowController::tellOfSave(const SaveOutcome& outcome) {
+  const std::optional<std::string>& name = outcome.language.description();
+  const std::string file = outcome.language.localizedStringUrl().text();
+  switch (outcome.kind) {
+    case SaveOutcome::Kind::Written:
+      return;
+    case SaveOutcome::Kind::Created:
+      runOkAlert(formatText(localized("Created new Localizable.strings for language %@ at:\n\n%@\n\nYou must add this "
+                                      "file to your Xcode project bundle!"),
+                            {name, file}));
+      return;
+    case SaveOutcome::Kind::Failed:
+      runOkAlert(formatText(localized("Error saving Localizable.strings for language %@"), {name}));
+      systemLog(formatText("Error %@ writing file: %@", {outcome.error.sentence, file}));
+      return;
+    case SaveOutcome::Kind::DirectoryFailed:
+      runOkAlert(formatText(localized("Error creating %@ for language %@"), {file, name}));
+      systemLog(formatText("Error %@ creating directory %@", {outcome.error.sentence, file}));
+      return;
+  }
 }
 
 bool ProjectWindowController::closeProject() {

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "model/LanguageTexts.h"
 #include "model/LocalizeString.h"
 
 namespace glossmill {
@@ -11,15 +12,13 @@ namespace glossmill {
 /// The texts of the `Localizable.strings` files of many languages: an empty line, then for each record with an entry in
 /// the language its comments in one block, `"key" = "translation"` without a semicolon, and an empty line. Everything
 /// stands as it is stored: nothing is escaped. No records give a single line feed.
-class StringsFileTexts {
+class StringsFileTexts : public LanguageTexts {
  public:
   /// Takes over what the texts of these languages need; the translations themselves stay where they are.
   StringsFileTexts(StringArray records, const std::vector<LanguageCode>& languages);
 
-  /// Begins the text of a language, one of those given.
-  void start(LanguageCode language);
-  /// The next piece of it, cut between records; empty at the end. Valid until the next call.
-  std::string_view nextPiece();
+  void start(LanguageCode language) override;
+  std::string_view nextPiece() override;
 
  private:
   void appendHead(const LocalizeString& record);

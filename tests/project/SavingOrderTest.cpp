@@ -47,7 +47,7 @@ TEST_F(SavingOrder, SavesLanguageAfterLanguageAndThenCountsAsSaved) {
 
 TEST_F(SavingOrder, ShowsTheAlertAndThenWritesTheDiagnosticOfAFileThatCannotBeWritten) {
   harbour.disk().failWriting(german, "No.");
-  EXPECT_FALSE(project().saveLanguage(*harbour.language(0)));
+  EXPECT_FALSE(project().saveLanguage(harbour.language(0)));
   const Lines expected = {
       "files: write " + german,
       "panels: alert \"Error saving Localizable.strings for language German\"",
@@ -59,7 +59,7 @@ TEST_F(SavingOrder, ShowsTheAlertAndThenWritesTheDiagnosticOfAFileThatCannotBeWr
 
 TEST_F(SavingOrder, ShowsTheAlertAndThenWritesTheDiagnosticOfADirectoryThatCannotBeMade) {
   harbour.disk().failCreating("/P/Harbour.app/fr.lproj", "No.");
-  EXPECT_FALSE(project().saveLanguage(*harbour.language(1)));
+  EXPECT_FALSE(project().saveLanguage(harbour.language(1)));
   const Lines expected = {
       "files: create /P/Harbour.app/fr.lproj and those above",
       "panels: alert \"Error creating file://" + french + " for language French\"",
@@ -87,7 +87,7 @@ TEST_F(SavingOrder, LooksForTheFileOnceMoreRightBeforeItWrites) {
     harbour.disk().addFile(french, "from elsewhere");
     made = true;
   });
-  EXPECT_TRUE(project().saveLanguage(*harbour.language(1)));
+  EXPECT_TRUE(project().saveLanguage(harbour.language(1)));
   EXPECT_TRUE(made);
   EXPECT_EQ(calls.linesOf({"panels"}), Lines());
 }
