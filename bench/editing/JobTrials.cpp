@@ -23,7 +23,7 @@ JobTrials::JobTrials(ProjectWindowController& project, Files& files, const FileU
 
 void JobTrials::run(const std::string& where, int rounds) {
   measure({"export", [this] { exportAll(); },
-           [this] { m_project.exportLanguageToFileAllStrings(m_full, m_exported, true); }},
+           [this] { m_project.exportLanguageToFileAllStrings(m_full, m_exported, ExportScope::AllStrings); }},
           where, rounds);
   const std::size_t imported = importAll();
   measure(
@@ -66,7 +66,7 @@ void JobTrials::exportAll() {
   std::string text = kExportTextStart;
   std::int64_t counter = 0;
   for (const auto& record : m_project.stringList()) {
-    appendExportBlock(text, *record, ++counter, m_full->code(), true);
+    appendExportBlock(text, *record, ++counter, m_full->code(), ExportScope::AllStrings);
   }
   if (!m_files.writeText(m_exported, text)) giveUp("cannot write " + m_exported.path());
 }

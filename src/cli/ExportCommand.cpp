@@ -17,6 +17,8 @@ struct ExportOptions {
   std::string output;
   bool untranslated = false;
   bool dryRun = false;
+
+  ExportScope scope() const { return untranslated ? ExportScope::Untranslated : ExportScope::AllStrings; }
 };
 
 /// Where the text goes; a name of its own stands for standard output.
@@ -42,7 +44,7 @@ ExitCode exportLanguage(const ExportOptions& options, Console& console) {
     console.error("the name of the output file is empty");
     return ExitCode::Unusable;
   }
-  session.project().exportLanguageToFileAllStrings(opened.language, target, !options.untranslated);
+  session.project().exportLanguageToFileAllStrings(opened.language, target, options.scope());
   const ExitCode finished = session.finishJob();
   if (finished != ExitCode::Fine) return finished;
   session.reportFiles();

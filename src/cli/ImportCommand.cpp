@@ -5,7 +5,7 @@
 #include "cli/LanguageChoice.h"
 #include "cli/Paths.h"
 #include "cli/TextTable.h"
-#include "exchange/ImportText.h"
+#include "exchange/ExchangeFormat.h"
 #include "platform/ReadText.h"
 
 namespace glossmill {
@@ -66,7 +66,7 @@ void printCounts(const ImportCounts& counts, Console& console) {
 Result<ImportTable> readTable(ProjectSession& session, const FileUrl& file) {
   if (file.empty()) return Error{"The file does not exist."};
   const Result<std::string> text = readText(session.files(), file);
-  return text ? Result<ImportTable>(importTable(text.value())) : text.error();
+  return text ? Result<ImportTable>(exchangeFormats().front().read(text.value())) : text.error();
 }
 
 ExitCode importLanguage(const ImportOptions& options, Console& console) {

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "model/ExportScope.h"
 #include "model/Language.h"
 
 namespace glossmill {
@@ -14,7 +15,7 @@ class LanguageWindowControllerDelegate {
  public:
   virtual ~LanguageWindowControllerDelegate() = default;
   virtual void languageWindowControllerDidSelectAllStrings(LanguageWindowController& chooser,
-                                                           std::shared_ptr<Language> language, bool allStrings) = 0;
+                                                           std::shared_ptr<Language> language, ExportScope scope) = 0;
   virtual void languageWindowControllerDidCancel(LanguageWindowController& chooser) = 0;
 };
 

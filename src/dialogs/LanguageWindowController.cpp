@@ -34,7 +34,7 @@ void LanguageWindowController::done() {
   const std::shared_ptr<Language> chosen = m_languageController.selectedObject();
   if (!chosen) return;
   endSheet();
-  if (m_delegate) m_delegate->languageWindowControllerDidSelectAllStrings(*this, chosen, allStrings());
+  if (m_delegate) m_delegate->languageWindowControllerDidSelectAllStrings(*this, chosen, scope());
 }
 
 void LanguageWindowController::cancel() {
@@ -47,10 +47,9 @@ void LanguageWindowController::endSheet() {
   m_host.sheets.endSheet(window());
 }
 
-/// The check box asks for the restriction, so on means not all strings.
-bool LanguageWindowController::allStrings() const {
+ExportScope LanguageWindowController::scope() const {
   const CheckButton* button = m_interface.outlets.checkButton;
-  return !button || !button->isOn();
+  return button && button->isOn() ? ExportScope::Untranslated : ExportScope::AllStrings;
 }
 
 }  // namespace glossmill

@@ -35,7 +35,7 @@ class LanguageWindowController {
 
  private:
   void endSheet();
-  bool allStrings() const;
+  ExportScope scope() const;
 
   Host m_host;
   std::string m_name;

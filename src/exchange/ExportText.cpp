@@ -3,9 +3,9 @@
 namespace glossmill {
 
 void appendExportBlock(std::string& text, const LocalizeString& record, std::int64_t number, LanguageCode language,
-                       bool allStrings) {
+                       ExportScope scope) {
   const std::optional<std::string_view> translation = record.languagesDict().find(language);
-  if (translation && !allStrings) return;
+  if (translation && scope == ExportScope::Untranslated) return;
   text += "--- " + std::to_string(number) + " ---\n/* ";
   text += record.comment();
   text += " */\n";

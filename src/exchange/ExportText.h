@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "model/ExportScope.h"
 #include "model/LocalizeString.h"
 
 namespace glossmill {
@@ -11,9 +12,9 @@ namespace glossmill {
 inline constexpr const char* kExportTextStart = "\n";
 
 /// Appends the block of one record, the `number`th of its list: number line, comment, key and translation, which is
-/// empty without an entry. Nothing is escaped. Without `allStrings` a record that has an entry, be it empty, is left
-/// out.
+/// empty without an entry. Nothing is escaped. A record that `scope` leaves out
+/// appends nothing.
 void appendExportBlock(std::string& text, const LocalizeString& record, std::int64_t number, LanguageCode language,
-                       bool allStrings);
+                       ExportScope scope);
 
 }  // namespace glossmill

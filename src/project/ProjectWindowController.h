@@ -153,9 +153,9 @@ class ProjectWindowController : public ProjectContext,
 
   // ---- Export: ProjectWindowControllerExport.cpp ----
 
-  void exportLanguageToFileAllStrings(std::shared_ptr<Language> language, const FileUrl& file, bool allStrings);
+  void exportLanguageToFileAllStrings(std::shared_ptr<Language> language, const FileUrl& file, ExportScope scope);
   /// Background.
-  void bgExportLanguage(const Language& language, const FileUrl& file, bool allStrings);
+  void bgExportLanguage(const Language& language, const FileUrl& file, ExportScope scope);
   /// Writes the text, when there is one, and closes the sheet.
   void saveExportTextFile(const Language& language, const FileUrl& file, const std::optional<std::string>& text);
 
@@ -176,7 +176,7 @@ class ProjectWindowController : public ProjectContext,
   /// no project was opened yet, or the directory cannot be made.
   std::shared_ptr<Language> addLanguage(std::string_view code);
   void languageWindowControllerDidSelectAllStrings(LanguageWindowController& chooser,
-                                                   std::shared_ptr<Language> language, bool allStrings) override;
+                                                   std::shared_ptr<Language> language, ExportScope scope) override;
   void languageWindowControllerDidCancel(LanguageWindowController& chooser) override;
   void didEndSelectLanguageWindowSheet();
   void selectLanguageWindowControllerDidSelect(SelectLanguageWindowController& dialog,
@@ -206,7 +206,7 @@ class ProjectWindowController : public ProjectContext,
   void tellOfSave(const SaveOutcome& outcome);
 
   void showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name);
-  void chooseExportFile(std::shared_ptr<Language> language, bool allStrings);
+  void chooseExportFile(std::shared_ptr<Language> language, ExportScope scope);
   void chooseImportFile(std::shared_ptr<Language> language);
   std::shared_ptr<Language> addChosenLanguage(const Language& chosen);
   FileUrl newLanguageParent();

@@ -1,6 +1,7 @@
 #include "dialogs/LanguageEntry.h"
 #include "dialogs/LanguageWindowController.h"
 #include "dialogs/SelectLanguageWindowController.h"
+#include "exchange/ExchangeFormat.h"
 #include "project/ProjectWindowController.h"
 #include "text/Format.h"
 
@@ -29,28 +30,28 @@ void ProjectWindowController::showChooser(std::shared_ptr<LanguageWindowControll
 
 void ProjectWindowController::languageWindowControllerDidSelectAllStrings(LanguageWindowController& chooser,
                                                                           std::shared_ptr<Language> language,
-                                                                          bool allStrings) {
+                                                                          ExportScope scope) {
   if (!language) return;
-  if (&chooser == m_exportLanguageWindowController.get()) chooseExportFile(language, allStrings);
+  if (&chooser == m_exportLanguageWindowController.get()) chooseExportFile(language, scope);
   if (&chooser == m_importLanguageWindowController.get()) chooseImportFile(language);
   if (&chooser == m_baseLanguageWindowController.get()) languageFromBaseLanguage(language);
 }
 
 void ProjectWindowController::languageWindowControllerDidCancel(LanguageWindowController&) {}
 
-void ProjectWindowController::chooseExportFile(std::shared_ptr<Language> language, bool allStrings) {
+void ProjectWindowController::chooseExportFile(std::shared_ptr<Language> language, ExportScope scope) {
   SavePanelRequest request;
   request.proposedName =
       formatText(localized("%@_%@.txt"), {m_projectDirectory.lastPathComponent(), language->iso639()});
-  m_host.panels.beginSavePanel(request, [this, language, allStrings](const std::optional<FileUrl>& file) {
-    if (file) exportLanguageToFileAllStrings(language, *file, allStrings);
+  m_host.panels.beginSavePanel(request, [this, language, scope](const std::optional<FileUrl>& file) {
+    if (file) exportLanguageToFileAllStrings(language, *file, scope);
   });
 }
 
 void ProjectWindowController::chooseImportFile(std::shared_ptr<Language> language) {
   OpenPanelRequest request;
   request.title = localized("Select file");
-  request.fileTypes = {"txt", "rtf", "TXT", "RTF"};
+  for (const std::string_view type : exchangeFormats().front().fileTypes) request.fileTypes.emplace_back(type);
   const std::optional<FileUrl> file = m_host.panels.runOpenPanel(request);
   if (file) importLanguageFromFile(language, *file);
 }

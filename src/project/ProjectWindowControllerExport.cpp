@@ -1,20 +1,20 @@
-#include "exchange/ExportText.h"
+#include "exchange/ExchangeFormat.h"
 #include "project/ProjectWindowController.h"
 #include "text/Format.h"
 
 namespace glossmill {
 
 void ProjectWindowController::exportLanguageToFileAllStrings(std::shared_ptr<Language> language, const FileUrl& file,
-                                                             bool allStrings) {
+                                                             ExportScope scope) {
   if (!language || file.empty()) return;
   beginLongTimeSheet("Exporting strings...");
   makeIndicatorCounting();
-  m_host.threads.performInBackground(
-      [this, language, file, allStrings] { bgExportLanguage(*language, file, allStrings); });
+  m_host.threads.performInBackground([this, language, file, scope] { bgExportLanguage(*language, file, scope); });
 }
 
-void ProjectWindowController::bgExportLanguage(const Language& language, const FileUrl& file, bool allStrings) {
-  std::optional<std::string> text = kExportTextStart;
+void ProjectWindowController::bgExportLanguage(const Language& language, const FileUrl& file, ExportScope scope) {
+  const ExchangeFormat& format = exchangeFormats().front();
+  std::optional<std::string> text(std::in_place, format.start);
   std::int64_t counter = 0;
   for (const std::shared_ptr<LocalizeString>& record : stringList()) {
     if (m_longTimeCanceled.isSet()) {
@@ -23,7 +23,7 @@ void ProjectWindowController::bgExportLanguage(const Language& language, const F
     }
     ++counter;
     onMainThread([&] { updateLongTerm(static_cast<double>(counter)); });
-    appendExportBlock(*text, *record, counter, language.code(), allStrings);
+    format.write(*text, *record, counter, language.code(), scope);
   }
   onMainThread([&] { saveExportTextFile(language, file, text); });
 }

@@ -1,4 +1,4 @@
-#include "exchange/ImportText.h"
+#include "exchange/ExchangeFormat.h"
 #include "platform/ReadText.h"
 #include "project/ProjectWindowController.h"
 
@@ -14,7 +14,7 @@ void ProjectWindowController::importLanguageFromFile(std::shared_ptr<Language> l
 
 void ProjectWindowController::bgImportLanguage(const Language& language, const FileUrl& file) {
   const Result<std::string> text = readText(m_host.files, file);
-  const bool finished = !text || applyImport(importTable(text.value()), language);
+  const bool finished = !text || applyImport(exchangeFormats().front().read(text.value()), language);
   onMainThread([&] { finished ? endImport() : endCanceledImport(language, file); });
 }
 

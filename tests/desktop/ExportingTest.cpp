@@ -110,8 +110,8 @@ class ExportingTest : public DesktopFixture {
     openDemo();
     demo().write(QStringLiteral("taken/x"), "");
     answerAlert(QStringLiteral("Ok"));
-    project().exportLanguageToFileAllStrings(project().selectedLanguage(),
-                                             FileUrl(fromQt(demo().file(QStringLiteral("taken")))), true);
+    project().exportLanguageToFileAllStrings(
+        project().selectedLanguage(), FileUrl(fromQt(demo().file(QStringLiteral("taken")))), ExportScope::AllStrings);
     waitForJob();
     QCOMPARE(alerts(), QStringList({QStringLiteral("Error saving export file for language Arabic")}));
   }
@@ -120,7 +120,8 @@ class ExportingTest : public DesktopFixture {
     demo().growBy(20000);
     openDemo();
     const QString file = demo().file(QStringLiteral("out.txt"));
-    project().exportLanguageToFileAllStrings(project().selectedLanguage(), FileUrl(fromQt(file)), true);
+    project().exportLanguageToFileAllStrings(project().selectedLanguage(), FileUrl(fromQt(file)),
+                                             ExportScope::AllStrings);
     QCOMPARE(inSheet<QLabel>("longTimeSheetTitle").text(), QStringLiteral("Exporting strings..."));
     click(inSheet<QPushButton>("cancelButton"));
     waitForJob();
@@ -131,8 +132,8 @@ class ExportingTest : public DesktopFixture {
   void movesTheBar() {
     demo().growBy(100000);
     openDemo();
-    project().exportLanguageToFileAllStrings(project().selectedLanguage(),
-                                             FileUrl(fromQt(demo().file(QStringLiteral("out.txt")))), true);
+    project().exportLanguageToFileAllStrings(
+        project().selectedLanguage(), FileUrl(fromQt(demo().file(QStringLiteral("out.txt")))), ExportScope::AllStrings);
     const auto& bar = inSheet<QProgressBar>("longTimeIndicator");
     QVERIFY(waitBriefly([&bar] { return bar.value() > 0; }));
     const int first = bar.value();

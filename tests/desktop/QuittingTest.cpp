@@ -127,8 +127,8 @@ class QuittingTest : public DesktopFixture {
   void cancelsAnExportThatIsRunning() {
     demo().growBy(20000);
     openDemo();
-    project().exportLanguageToFileAllStrings(project().selectedLanguage(),
-                                             FileUrl(fromQt(demo().file(QStringLiteral("out.txt")))), true);
+    project().exportLanguageToFileAllStrings(
+        project().selectedLanguage(), FileUrl(fromQt(demo().file(QStringLiteral("out.txt")))), ExportScope::AllStrings);
     QCoreApplication::processEvents();
     press(Qt::Key_Q, Qt::ControlModifier);
     QCOMPARE(terminations(), 1);

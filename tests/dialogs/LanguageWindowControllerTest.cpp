@@ -12,8 +12,8 @@ class RecordingDelegate : public LanguageWindowControllerDelegate {
   explicit RecordingDelegate(TestHost& host) : m_host(host) {}
 
   void languageWindowControllerDidSelectAllStrings(LanguageWindowController& chooser,
-                                                   std::shared_ptr<Language> language, bool allStrings) override {
-    selected.emplace_back(language->iso639(), allStrings);
+                                                   std::shared_ptr<Language> language, ExportScope scope) override {
+    selected.emplace_back(language->iso639(), scope);
     note(chooser);
   }
   void languageWindowControllerDidCancel(LanguageWindowController& chooser) override {
@@ -21,7 +21,7 @@ class RecordingDelegate : public LanguageWindowControllerDelegate {
     note(chooser);
   }
 
-  std::vector<std::pair<std::string, bool>> selected;
+  std::vector<std::pair<std::string, ExportScope>> selected;
   int cancels = 0;
   LanguageWindowController* lastSender = nullptr;
   bool sheetWasUp = false;
@@ -48,7 +48,7 @@ std::shared_ptr<LanguageArray> germanAndFrench() {
 
 class LanguageChooser : public testing::Test {
  protected:
-  using Selected = std::vector<std::pair<std::string, bool>>;
+  using Selected = std::vector<std::pair<std::string, ExportScope>>;
 
   LanguageWindowController& shown(std::string_view name = "ExportLanguageWindowController") {
     m_chooser = std::make_unique<LanguageWindowController>(m_host.parts(), name, m_languages);
@@ -78,21 +78,21 @@ TEST_F(LanguageChooser, SelectsNoRowItself) {
 TEST_F(LanguageChooser, TellsOfAllStringsWhileItsCheckBoxIsOff) {
   shown().languageController().setSelectionIndex(1);
   m_chooser->done();
-  EXPECT_EQ(m_delegate.selected, (Selected{{"fr", true}}));
+  EXPECT_EQ(m_delegate.selected, (Selected{{"fr", ExportScope::AllStrings}}));
 }
 
 TEST_F(LanguageChooser, TellsOfTheRestrictionWhileItsCheckBoxIsOn) {
   shown().languageController().setSelectionIndex(0);
   window().checkButton.checked = true;
   m_chooser->done();
-  EXPECT_EQ(m_delegate.selected, (Selected{{"de", false}}));
+  EXPECT_EQ(m_delegate.selected, (Selected{{"de", ExportScope::Untranslated}}));
 }
 
 TEST_F(LanguageChooser, TellsAlwaysOfAllStringsWithoutACheckBox) {
   shown("LanguageWindowController").languageController().setSelectionIndex(0);
   window().checkButton.checked = true;
   m_chooser->done();
-  EXPECT_EQ(m_delegate.selected, (Selected{{"de", true}}));
+  EXPECT_EQ(m_delegate.selected, (Selected{{"de", ExportScope::AllStrings}}));
 }
 
 TEST_F(LanguageChooser, EndsTheSheetBeforeItTellsOfTheChoice) {
@@ -116,7 +116,7 @@ TEST_F(LanguageChooser, EndsTheSheetBeforeItTellsOfTheCancel) {
 TEST_F(LanguageChooser, ConfirmsByDoubleClick) {
   shown().languageController().setSelectionIndex(1);
   window().tableView.doubleAction();
-  EXPECT_EQ(m_delegate.selected, (Selected{{"fr", true}}));
+  EXPECT_EQ(m_delegate.selected, (Selected{{"fr", ExportScope::AllStrings}}));
   EXPECT_EQ(m_host.sheets.count(), 0U);
 }
 

@@ -21,8 +21,8 @@ class ExportJob : public testing::Test {
     m_test.open();
   }
 
-  void exportTo(std::string_view path, bool allStrings) {
-    m_test.project().exportLanguageToFileAllStrings(m_test.language("fr"), FileUrl(path), allStrings);
+  void exportTo(std::string_view path, ExportScope scope) {
+    m_test.project().exportLanguageToFileAllStrings(m_test.language("fr"), FileUrl(path), scope);
     m_test.host.runUntilIdle();
   }
   std::optional<std::string> exported() { return m_test.host.files.bytesOf(kExported); }
@@ -41,13 +41,13 @@ class ExportJob : public testing::Test {
 };
 
 TEST_F(ExportJob, WritesOnlyTheUntranslatedStringsUnderTheirNumbers) {
-  exportTo(kExported, false);
+  exportTo(kExported, ExportScope::Untranslated);
   EXPECT_EQ(exported(), "\n--- 2 ---\n/* Style */\nBold\n\n\n");
   expectEnded();
 }
 
 TEST_F(ExportJob, WritesAllStringsWithTheirTranslations) {
-  exportTo(kExported, true);
+  exportTo(kExported, ExportScope::AllStrings);
   EXPECT_EQ(exported(),
             "\n--- 1 ---\n/* Menu */\nAdd\nAjouter\n\n"
             "--- 2 ---\n/* Style */\nBold\n\n\n"
@@ -57,15 +57,15 @@ TEST_F(ExportJob, WritesAllStringsWithTheirTranslations) {
 
 TEST_F(ExportJob, LeavesOutAStringWithAnEmptyEntryUnlessAllAreWanted) {
   m_test.setTranslation("Bold", "fr", "");
-  exportTo(kExported, false);
+  exportTo(kExported, ExportScope::Untranslated);
   EXPECT_EQ(exported(), "\n");
-  exportTo(kExported, true);
+  exportTo(kExported, ExportScope::AllStrings);
   EXPECT_NE(exported()->find("--- 2 ---\n/* Style */\nBold\n\n\n"), std::string::npos);
 }
 
 TEST_F(ExportJob, WritesASingleLineFeedForAnEmptyList) {
   m_test.project().stringController().removeAllObjects();
-  exportTo(kExported, true);
+  exportTo(kExported, ExportScope::AllStrings);
   EXPECT_EQ(exported(), "\n");
   EXPECT_EQ(m_test.sheet().indicator.maxValue, 0.0);
   expectEnded();
@@ -73,19 +73,19 @@ TEST_F(ExportJob, WritesASingleLineFeedForAnEmptyList) {
 
 TEST_F(ExportJob, NeitherWritesNorCountsStringsThatTheFilterHoldsBack) {
   m_test.chooseFilter(1);
-  exportTo(kExported, true);
+  exportTo(kExported, ExportScope::AllStrings);
   EXPECT_EQ(exported(), "\n--- 1 ---\n/* Style */\nBold\n\n\n");
 }
 
 TEST_F(ExportJob, KeepsTheOrderOfTheListWhateverTheTableShows) {
   m_test.project().stringController().setLess(
       [](const LocalizeString& a, const LocalizeString& b) { return a.name() > b.name(); });
-  exportTo(kExported, false);
+  exportTo(kExported, ExportScope::Untranslated);
   EXPECT_EQ(exported(), "\n--- 2 ---\n/* Style */\nBold\n\n\n");
 }
 
 TEST_F(ExportJob, WritesPlainTextWhateverTheFileIsCalled) {
-  exportTo("/out/App_fr.rtf", false);
+  exportTo("/out/App_fr.rtf", ExportScope::Untranslated);
   EXPECT_EQ(m_test.host.files.bytesOf("/out/App_fr.rtf"), "\n--- 2 ---\n/* Style */\nBold\n\n\n");
 }
 
@@ -94,7 +94,7 @@ TEST_F(ExportJob, CountsEveryStringInTheSheetAlsoThoseItLeavesOut) {
   m_test.onProgress = [&](const HeadlessLongTimeSheet& sheet) {
     if (sheet.indicator.doubleValue > 0) values.push_back(sheet.indicator.doubleValue);
   };
-  m_test.project().exportLanguageToFileAllStrings(m_test.language("fr"), FileUrl(kExported), false);
+  m_test.project().exportLanguageToFileAllStrings(m_test.language("fr"), FileUrl(kExported), ExportScope::Untranslated);
   EXPECT_TRUE(m_test.sheetIsUp());
   EXPECT_EQ(m_test.sheet().title.stringValue, "Exporting strings...");
   EXPECT_FALSE(m_test.sheet().indicator.isIndeterminate);
@@ -108,7 +108,7 @@ TEST_F(ExportJob, CountsEveryStringInTheSheetAlsoThoseItLeavesOut) {
 
 TEST_F(ExportJob, ChangesNothingInTheProject) {
   const int reloads = m_test.window().stringTableView.reloadCount;
-  exportTo(kExported, true);
+  exportTo(kExported, ExportScope::AllStrings);
   EXPECT_FALSE(m_test.project().changed());
   EXPECT_EQ(m_test.translation("Add", "fr"), "Ajouter");
   EXPECT_EQ(m_test.translation("Bold", "fr"), std::nullopt);
@@ -119,7 +119,7 @@ TEST_F(ExportJob, WritesNothingAndSaysNothingWhenItIsCancelled) {
   m_test.host.files.addFile(kExported, "former");
   for (const double value : {0.0, 2.0}) {
     cancelAt(value);
-    exportTo(kExported, true);
+    exportTo(kExported, ExportScope::AllStrings);
     EXPECT_EQ(m_test.sheet().indicator.doubleValue, value);
     expectEnded();
   }
@@ -130,7 +130,7 @@ TEST_F(ExportJob, WritesNothingAndSaysNothingWhenItIsCancelled) {
 
 TEST_F(ExportJob, WritesItsFileWhenItIsCancelledAfterTheLastString) {
   cancelAt(3.0);
-  exportTo(kExported, false);
+  exportTo(kExported, ExportScope::Untranslated);
   EXPECT_EQ(exported(), "\n--- 2 ---\n/* Style */\nBold\n\n\n");
   expectEnded();
 }
@@ -138,7 +138,7 @@ TEST_F(ExportJob, WritesItsFileWhenItIsCancelledAfterTheLastString) {
 TEST_F(ExportJob, ReportsAFileThatCannotBeWrittenAndLeavesTheFormerOneWhole) {
   m_test.host.files.addFile(kExported, "former");
   m_test.host.files.failWriting(kExported, "The disk is full.");
-  exportTo(kExported, true);
+  exportTo(kExported, ExportScope::AllStrings);
   ASSERT_EQ(m_test.host.panels.alerts.size(), 1U);
   const AlertRequest& alert = m_test.host.panels.alerts.front();
   EXPECT_EQ(alert.message, "Error saving export file for language French");
@@ -152,14 +152,14 @@ TEST_F(ExportJob, ReportsAFileThatCannotBeWrittenAndLeavesTheFormerOneWhole) {
 
 TEST_F(ExportJob, ReportsTextThatUtf8CannotHold) {
   m_test.setTranslation("Bold", "fr", "half a pair: \xED\xA0\xBD");
-  exportTo(kExported, true);
+  exportTo(kExported, ExportScope::AllStrings);
   EXPECT_EQ(m_test.alertMessages(), (std::vector<std::string>{"Error saving export file for language French"}));
   EXPECT_EQ(exported(), std::nullopt);
 }
 
 TEST_F(ExportJob, DoesNothingWithoutALanguageOrAFile) {
-  m_test.project().exportLanguageToFileAllStrings(nullptr, FileUrl(kExported), true);
-  m_test.project().exportLanguageToFileAllStrings(m_test.language("fr"), FileUrl(), true);
+  m_test.project().exportLanguageToFileAllStrings(nullptr, FileUrl(kExported), ExportScope::AllStrings);
+  m_test.project().exportLanguageToFileAllStrings(m_test.language("fr"), FileUrl(), ExportScope::AllStrings);
   EXPECT_EQ(m_test.host.threads.jobsRunning(), 0);
   EXPECT_FALSE(m_test.sheetIsUp());
 }

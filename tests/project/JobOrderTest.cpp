@@ -20,7 +20,9 @@ class JobOrder : public testing::Test {
     harbour.openUnrecorded();
   }
 
-  void beginExport() { project().exportLanguageToFileAllStrings(harbour.language(0), FileUrl("/P/out.txt"), true); }
+  void beginExport() {
+    project().exportLanguageToFileAllStrings(harbour.language(0), FileUrl("/P/out.txt"), ExportScope::AllStrings);
+  }
   void beginImport() {
     harbour.disk().addFile("/P/in.txt", "--- 1 ---\n\nFlood\nFlut\n");
     project().importLanguageFromFile(harbour.language(0), FileUrl("/P/in.txt"));

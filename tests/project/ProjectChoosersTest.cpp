@@ -200,13 +200,14 @@ TEST_F(ProjectChoosers, DoNothingWithoutALanguage) {
   m_test.project().exportStrings();
   LanguageWindowController& exporting = chooser();
   exporting.cancel();
-  m_test.project().languageWindowControllerDidSelectAllStrings(exporting, nullptr, true);
+  m_test.project().languageWindowControllerDidSelectAllStrings(exporting, nullptr, ExportScope::AllStrings);
   EXPECT_TRUE(m_test.host.panels.savePanels.empty());
 }
 
 TEST_F(ProjectChoosers, AreToldApartByTheirIdentity) {
   LanguageWindowController stranger(m_test.host.parts(), "LanguageWindowController", m_test.project().languagesList());
-  m_test.project().languageWindowControllerDidSelectAllStrings(stranger, m_test.language("fr"), true);
+  m_test.project().languageWindowControllerDidSelectAllStrings(stranger, m_test.language("fr"),
+                                                               ExportScope::AllStrings);
   EXPECT_TRUE(m_test.host.panels.savePanels.empty());
   EXPECT_EQ(m_test.host.panels.openPanels.size(), 1U);
   EXPECT_EQ(m_test.host.threads.jobsRunning(), 0);

@@ -52,7 +52,7 @@ StringArray randomRecords(unsigned seed) {
 std::string exportAll(const StringArray& records) {
   std::string text = kExportTextStart;
   std::int64_t number = 0;
-  for (const auto& record : records) appendExportBlock(text, *record, ++number, kFrench, true);
+  for (const auto& record : records) appendExportBlock(text, *record, ++number, kFrench, ExportScope::AllStrings);
   return text;
 }
 
@@ -81,7 +81,8 @@ TEST(RoundTrip, ThroughTheProgramKeepsEveryTranslation) {
     std::vector<std::optional<std::string>> before;
     for (const std::string& key : test.keys()) before.push_back(test.translation(key, "fr"));
 
-    test.project().exportLanguageToFileAllStrings(test.language("fr"), FileUrl("/x/App_fr.txt"), true);
+    test.project().exportLanguageToFileAllStrings(test.language("fr"), FileUrl("/x/App_fr.txt"),
+                                                  ExportScope::AllStrings);
     test.host.runUntilIdle();
     test.project().importLanguageFromFile(test.language("fr"), FileUrl("/x/App_fr.txt"));
     test.host.runUntilIdle();
@@ -98,7 +99,7 @@ TEST(RoundTrip, LeavesStringsWithAnEmptyTranslationLineUntranslated) {
   test.addString("Open");
   test.addLanguage("fr");
   test.open();
-  test.project().exportLanguageToFileAllStrings(test.language("fr"), FileUrl("/x/App_fr.txt"), true);
+  test.project().exportLanguageToFileAllStrings(test.language("fr"), FileUrl("/x/App_fr.txt"), ExportScope::AllStrings);
   test.host.runUntilIdle();
   test.project().importLanguageFromFile(test.language("fr"), FileUrl("/x/App_fr.txt"));
   test.host.runUntilIdle();
@@ -111,7 +112,7 @@ std::optional<std::string> importedAs(std::string_view key, std::string_view com
   record.commentArray().emplace_back(comment);
   record.languagesDict().set(kFrench, translation);
   std::string text = kExportTextStart;
-  appendExportBlock(text, record, 1, kFrench, true);
+  appendExportBlock(text, record, 1, kFrench, ExportScope::AllStrings);
   const ImportTable table = importTable(text);
   const auto found = table.find(std::string(key));
   return found == table.end() ? std::nullopt : std::optional(found->second);
