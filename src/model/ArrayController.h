@@ -55,8 +55,9 @@ class ArrayController {
   /// A row that does not exist clears the selection.
   void setSelectionIndex(std::size_t row);
   void clearSelection();
-  bool canSelectPrevious() const { return m_selected && *m_selected > 0; }
-  bool canSelectNext() const { return m_selected && *m_selected + 1 < m_rows.size(); }
+  /// While nothing is selected, the step back goes to the last row and the step forward to the first one.
+  bool canSelectPrevious() const { return m_selected ? *m_selected > 0 : !m_rows.empty(); }
+  bool canSelectNext() const { return m_selected ? *m_selected + 1 < m_rows.size() : !m_rows.empty(); }
   void selectPrevious();
   void selectNext();
 
@@ -146,12 +147,12 @@ void ArrayController<T>::clearSelection() {
 
 template <typename T>
 void ArrayController<T>::selectPrevious() {
-  if (canSelectPrevious()) select(*m_selected - 1);
+  if (canSelectPrevious()) select(m_selected.value_or(m_rows.size()) - 1);
 }
 
 template <typename T>
 void ArrayController<T>::selectNext() {
-  if (canSelectNext()) select(*m_selected + 1);
+  if (canSelectNext()) select(m_selected ? *m_selected + 1 : 0);
 }
 
 template <typename T>

@@ -66,12 +66,9 @@ void ProjectWindowController::translationCountChanged(LanguageCode code, int dif
   m_counts.adjust(code, difference);
 }
 
-/// The write-back changes nothing; it makes everything that shows the translation look again.
+/// Nothing is stored: an entry that is the empty text reads like no entry, and being shown must not take it away.
 void ProjectWindowController::languageSelectionDidChange() {
-  const std::shared_ptr<LocalizeString> record = selectedString();
-  if (!record) return;
-  record->setTranslationForSelectedString(record->translationForSelectedString(this), this);
-  m_window.outlets.translationTextView->translationChanged();
+  if (selectedString()) m_window.outlets.translationTextView->translationChanged();
 }
 
 void ProjectWindowController::selectPrevString() {

@@ -128,6 +128,15 @@ class EditingTest : public DesktopFixture {
     QCOMPARE(editor().toPlainText(), QStringLiteral("Open"));
   }
 
+  void keepsAnEmptyEntryThatIsOnlyShown() {
+    demo().write(QStringLiteral("ar.lproj/Localizable.strings"), "\"Open\" = \"\";\n");
+    openDemo();
+    for (const char* code : {"de", "ar"}) select(languages(), QLatin1String(code));
+    QCOMPARE(stored(QStringLiteral("Open"), "ar"), QString());
+    QCOMPARE(cell(languages(), QStringLiteral("ar"), 2), QStringLiteral("4 missing"));
+    QVERIFY(!window().isWindowModified());
+  }
+
   void writesInTheDirectionOfTheLanguage() {
     openDemo();
     select(languages(), QStringLiteral("ar"));

@@ -30,6 +30,24 @@ class LanguagesTest : public DesktopFixture {
     QCOMPARE(cell(strings(), QStringLiteral("Open"), 5), QStringLiteral("1 missing"));
   }
 
+  /// Only another selection shows the translation anew.
+  void leavesTheEditorAloneWhenALanguageIsAdded() {
+    openDemo();
+    select(languages(), QStringLiteral("de"));
+    LocalizeString& shown = *project().selectedString();
+    LanguagesDict translations = shown.languagesDict();
+    translations.set(LanguageCode("de"), "behind its back");
+    shown.setLanguagesDict(translations);
+    press(Qt::Key_L, Qt::ControlModifier);
+    type(QStringLiteral("FREN"));
+    press(Qt::Key_Return);
+    QCOMPARE(firstColumn(languages()).last(), QStringLiteral("fr"));
+    QCOMPARE(editor().toPlainText(), QStringLiteral("Auf"));
+    select(languages(), QStringLiteral("en"));
+    select(languages(), QStringLiteral("de"));
+    QCOMPARE(editor().toPlainText(), QStringLiteral("behind its back"));
+  }
+
   void findsByCodeToo() {
     openDemo();
     press(Qt::Key_L, Qt::ControlModifier);

@@ -152,12 +152,18 @@ TEST_F(ArrayControllerSelectionTest, CannotStepWithoutRows) {
   EXPECT_EQ(controller.selectedRow(), std::nullopt);
 }
 
-TEST_F(ArrayControllerSelectionTest, CannotStepWithoutASelection) {
+TEST_F(ArrayControllerSelectionTest, StepsForwardToTheFirstRowWhileNothingIsSelected) {
   fill({"a", "b"});
-  EXPECT_FALSE(controller.canSelectPrevious());
-  EXPECT_FALSE(controller.canSelectNext());
+  EXPECT_TRUE(controller.canSelectNext());
   controller.selectNext();
-  EXPECT_EQ(controller.selectedRow(), std::nullopt);
+  EXPECT_EQ(selectedName(controller), "a");
+}
+
+TEST_F(ArrayControllerSelectionTest, StepsBackToTheLastRowWhileNothingIsSelected) {
+  fill({"a", "b"});
+  EXPECT_TRUE(controller.canSelectPrevious());
+  controller.selectPrevious();
+  EXPECT_EQ(selectedName(controller), "b");
 }
 
 TEST_F(ArrayControllerSelectionTest, TellsOfOtherContent) {

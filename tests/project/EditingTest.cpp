@@ -80,9 +80,17 @@ TEST_F(Editing, ChangesNothingWhenALanguageIsSelected) {
   EXPECT_FALSE(m_test.project().changed());
 }
 
-TEST_F(Editing, RemovesTheEmptyEntryOfTheSelectedStringWhenItsLanguageIsSelected) {
+TEST_F(Editing, KeepsAnEmptyEntryThatIsOnlyShown) {
   m_test.select("Cut", "fr");
   m_test.project().languageSelectionDidChange();
+  EXPECT_EQ(m_test.translation("Cut", "fr"), "");
+  EXPECT_EQ(m_test.project().languageStatusString(*m_test.language("fr")), "1 missing");
+  EXPECT_FALSE(m_test.project().changed());
+}
+
+TEST_F(Editing, RemovesAnEmptyEntryThatIsTypedEmpty) {
+  m_test.select("Cut", "fr");
+  m_test.type("");
   EXPECT_EQ(m_test.translation("Cut", "fr"), std::nullopt);
   EXPECT_TRUE(m_test.project().changed());
 }

@@ -81,6 +81,17 @@ TEST_F(Navigation, IsDisabledWithoutRows) {
   EXPECT_FALSE(project().selectedString());
 }
 
+TEST_F(Navigation, BeginsAtEitherEndWhileNothingIsSelected) {
+  project().stringController().clearSelection();
+  project().languageController().clearSelection();
+  EXPECT_TRUE(project().canSelectPrevString());
+  EXPECT_TRUE(project().canSelectNextLanguage());
+  project().selectPrevString();
+  project().selectNextLanguage();
+  EXPECT_EQ(selectedKey(), "Cut");
+  EXPECT_EQ(selectedCode(), "de");
+}
+
 TEST_F(Navigation, FollowsTheOrderOfTheTable) {
   project().stringController().setLess(
       [](const LocalizeString& a, const LocalizeString& b) { return a.name() > b.name(); });

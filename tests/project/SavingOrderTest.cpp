@@ -81,6 +81,16 @@ TEST_F(SavingOrder, StillCountsAsChangedWhileItsAlertsAreUp) {
   EXPECT_FALSE(project().changed());
 }
 
+TEST_F(SavingOrder, WritesTheOtherLanguagesOfAProjectThatIsClosedBehindAnAlert) {
+  harbour.disk().failWriting(german, "No.");
+  harbour.disk().addFile(french, "");
+  calls.when("panels: alert \"Error saving Localizable.strings for language German\"",
+             [this] { project().clearProject(); });
+  EXPECT_FALSE(project().saveProject());
+  EXPECT_TRUE(sameLines(calls.linesOf({"files: write"}), {"files: write " + german, "files: write " + french}));
+  EXPECT_FALSE(project().opened());
+}
+
 TEST_F(SavingOrder, LooksForTheFileOnceMoreRightBeforeItWrites) {
   bool made = false;
   calls.when("files: create /P/Harbour.app/fr.lproj and those above", [&] {

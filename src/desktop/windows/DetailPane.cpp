@@ -36,7 +36,6 @@ void DetailPane::languageSelected() {
                                      : m_bundle.localizedString("Translation");
   m_widgets.editorLabel.setText(toQt(label));
   m_widgets.editor.setAccessibleName(toQt(label));
-  m_widgets.editor.translationChanged();
 }
 
 }  // namespace glossmill

@@ -101,7 +101,7 @@ void ProjectWindowInterface::stringsChanged(ArrayChange change) {
 
 void ProjectWindowInterface::languagesChanged(ArrayChange change) {
   m_languages.languagesChanged(change);
-  m_project.languageSelectionDidChange();
+  if (change == ArrayChange::Selection) m_project.languageSelectionDidChange();
   m_strings.translationsChanged();
   m_details.languageSelected();
   m_shell.actions.validateSoon();
