@@ -22,15 +22,11 @@ Result<std::size_t> readWindow(ByteReader& reader, std::span<char> window) {
   return filled;
 }
 
-}  // namespace
-
-Outcome readTextPieces(FileReading& files, const FileUrl& file, const std::function<void(std::string_view)>& sink) {
-  const Result<std::unique_ptr<ByteReader>> reader = files.open(file);
-  if (!reader) return reader.error();
+Outcome readPieces(ByteReader& reader, const std::function<void(std::string_view)>& sink) {
   static thread_local std::vector<char> window(kWindow);
   TextDecoder decoder;
   while (true) {
-    const Result<std::size_t> got = readWindow(*reader.value(), window);
+    const Result<std::size_t> got = readWindow(reader, window);
     if (!got) return got.error();
     const Outcome fed = decoder.feed({window.data(), got.value()}, sink);
     if (!fed) return fed;
@@ -38,11 +34,23 @@ Outcome readTextPieces(FileReading& files, const FileUrl& file, const std::funct
   }
 }
 
-Result<std::string> readText(FileReading& files, const FileUrl& file) {
+}  // namespace
+
+Outcome readTextPieces(FileReading& files, const FileUrl& file, const std::function<void(std::string_view)>& sink) {
+  const Result<std::unique_ptr<ByteReader>> reader = files.open(file);
+  return reader ? readPieces(*reader.value(), sink) : Outcome(reader.error());
+}
+
+Result<std::string> readText(ByteReader& reader) {
   std::string text;
-  const Outcome outcome = readTextPieces(files, file, [&text](std::string_view piece) { text.append(piece); });
+  const Outcome outcome = readPieces(reader, [&text](std::string_view piece) { text.append(piece); });
   if (!outcome) return outcome.error();
   return text;
+}
+
+Result<std::string> readText(FileReading& files, const FileUrl& file) {
+  const Result<std::unique_ptr<ByteReader>> reader = files.open(file);
+  return reader ? readText(*reader.value()) : Result<std::string>(reader.error());
 }
 
 }  // namespace glossmill

@@ -8,6 +8,9 @@
 
 namespace glossmill {
 
+/// What is left of an open file as UTF-8 text, its encoding detected.
+Result<std::string> readText(ByteReader& reader);
+
 /// The whole file as UTF-8 text, its encoding detected. The error names the reason, not the file.
 Result<std::string> readText(FileReading& files, const FileUrl& file);
 

@@ -18,16 +18,22 @@ class PackageSearch {
     std::optional<FileUrl> found;
     for (const DirectoryEntry& entry : entries.value()) {
       if (found || m_canceled.isSet()) break;
-      if (entry.kind == EntryKind::Directory) found = searchEntry(directory, entry);
+      found = searchEntry(directory, entry);
     }
     m_trail.leave();
     return found;
   }
 
  private:
+  /// What the listing said of an entry may be over by now. It is asked before a package counts and for what was out of
+  /// reach; any other directory that is gone cannot be listed, and that is all there is to it.
   std::optional<FileUrl> searchEntry(const FileUrl& directory, const DirectoryEntry& entry) {
+    const bool isPackage = extensionOfName(entry.name) == "xcodeproj";
+    if (entry.kind == EntryKind::File && !isPackage) return std::nullopt;
     const FileUrl url = directory.appending(entry.name);
-    if (url.pathExtension() == "xcodeproj") return url;
+    const bool isAsked = isPackage || entry.kind == EntryKind::Missing;
+    if (isAsked && m_files.kindOf(url) != EntryKind::Directory) return std::nullopt;
+    if (isPackage) return url;
     if (m_trail.leadsBack(url, entry)) return std::nullopt;
     return search(url);
   }

@@ -38,7 +38,7 @@ class FileListPhase : private TreeWalkListener {
   void foundStringsFile(const Language& language, const FileUrl& file) override {
     tell(StringsFileFound{language, file});
   }
-  void sourceFile(const FileUrl& file) override;
+  void sourceFile(const FileUrl& file, const Result<std::unique_ptr<ByteReader>>& opened) override;
 
   const ScanInput& m_input;
   ScanMemory& m_memory;
@@ -63,10 +63,10 @@ void FileListPhase::walk(const FileUrl& directory) {
   walk.contentsOfUrl(directory);
 }
 
-void FileListPhase::sourceFile(const FileUrl& file) {
+void FileListPhase::sourceFile(const FileUrl& file, const Result<std::unique_ptr<ByteReader>>& opened) {
   tell(SourceBegins{file});
   m_result.fileList.push_back(file);
-  const Result<std::string> text = readText(m_input.files, file);
+  const Result<std::string> text = opened ? readText(*opened.value()) : Result<std::string>(opened.error());
   if (!text) {
     tell(SourceUnread{file, text.error()});
     return;

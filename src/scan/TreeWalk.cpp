@@ -6,34 +6,62 @@
 
 namespace glossmill {
 
+namespace {
+constexpr std::string_view kStringsFileName = "Localizable.strings";
+}
+
 void TreeWalk::contentsOfUrl(const FileUrl& directory) {
-  const auto entries = m_input.files.list(directory);
+  enter(directory, m_input.files.list(directory));
+}
+
+void TreeWalk::enter(const FileUrl& directory, const Result<std::vector<DirectoryEntry>>& entries) {
   ++m_state.actualDirectoryDepth;  // also when the listing failed
   if (!entries) return;
   m_trail.enter(directory);
   for (const DirectoryEntry& entry : entries.value()) {
     if (m_input.canceled.isSet()) break;
-    const FileUrl url = directory.appending(entry.name);
-    if (entry.kind == EntryKind::Directory) directoryEntry(url, entry);
-    if (entry.kind == EntryKind::File) fileEntry(url);
+    visit(directory.appending(entry.name), entry);
   }
   m_trail.leave();
 }
 
-void TreeWalk::directoryEntry(const FileUrl& url, const DirectoryEntry& entry) {
-  if (url.pathExtension() == "lproj") addLanguage(url.lastPathComponentWithoutExtension(), url);
-  if (!m_trail.leadsBack(url, entry)) contentsOfUrl(url);
+/// What the listing said of an entry may be over by now. To ask about each would cost more than the walk: it is asked
+/// before a strings file counts and for what was out of reach, and for the others when they cannot be listed or opened.
+/// What has become of another kind since is followed once.
+void TreeWalk::visit(const FileUrl& url, const DirectoryEntry& entry) {
+  const bool isAsked = entry.kind == EntryKind::Missing || entry.name == kStringsFileName;
+  const EntryKind kind = isAsked ? m_input.files.kindOf(url) : entry.kind;
+  if (kind == EntryKind::Directory) directoryEntry(url, entry);
+  if (kind == EntryKind::File) fileEntry(url, entry);
 }
 
-void TreeWalk::fileEntry(const FileUrl& url) {
-  const std::string_view name = url.lastPathComponent();
-  if (name == "Localizable.strings" && m_state.actualLanguage) {
-    m_listener.foundStringsFile(*m_state.actualLanguage, url);
-    m_state.actualLanguage->setLocalizedStringUrl(url);
-    m_state.actualLanguage->setUrlDepth(Language::kStringsFile);
-  }
+void TreeWalk::directoryEntry(const FileUrl& url, const DirectoryEntry& entry) {
+  const bool leadsBack = m_trail.leadsBack(url, entry);
+  const auto entries = leadsBack ? std::vector<DirectoryEntry>() : m_input.files.list(url);
+  const EntryKind kind = entries ? EntryKind::Directory : m_input.files.kindOf(url);
+  if (kind == EntryKind::File && entry.kind == EntryKind::Directory) fileEntry(url, entry);
+  if (kind != EntryKind::Directory) return;
+  if (url.pathExtension() == "lproj") addLanguage(url.lastPathComponentWithoutExtension(), url);
+  if (!leadsBack) enter(url, entries);
+}
+
+void TreeWalk::fileEntry(const FileUrl& url, const DirectoryEntry& entry) {
+  if (entry.name == kStringsFileName && m_state.actualLanguage) stringsFile(url);
   if (url.pathExtension() != "m") return;
-  if (!m_input.members || m_input.members->mentions(name)) m_listener.sourceFile(url);
+  if (!m_input.members || m_input.members->mentions(entry.name)) sourceFile(url, entry);
+}
+
+void TreeWalk::stringsFile(const FileUrl& url) {
+  m_listener.foundStringsFile(*m_state.actualLanguage, url);
+  m_state.actualLanguage->setLocalizedStringUrl(url);
+  m_state.actualLanguage->setUrlDepth(Language::kStringsFile);
+}
+
+void TreeWalk::sourceFile(const FileUrl& url, const DirectoryEntry& entry) {
+  const Result<std::unique_ptr<ByteReader>> opened = m_input.files.open(url);
+  const EntryKind kind = opened ? EntryKind::File : m_input.files.kindOf(url);
+  if (kind == EntryKind::Directory && entry.kind == EntryKind::File) directoryEntry(url, entry);
+  if (kind == EntryKind::File) m_listener.sourceFile(url, opened);
 }
 
 void TreeWalk::addLanguage(std::string_view directoryName, const FileUrl& directory) {

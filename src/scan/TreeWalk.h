@@ -21,7 +21,8 @@ class TreeWalkListener {
   virtual void oldLanguageName(std::string_view directoryName, std::string_view code) = 0;
   /// The language is given its file afterwards.
   virtual void foundStringsFile(const Language& language, const FileUrl& file) = 0;
-  virtual void sourceFile(const FileUrl& file) = 0;
+  /// A member source that exists, open unless it cannot be opened.
+  virtual void sourceFile(const FileUrl& file, const Result<std::unique_ptr<ByteReader>>& opened) = 0;
 };
 
 /// What a walk works on; all of it outlives the walk.
@@ -33,7 +34,8 @@ struct TreeWalkInput {
 };
 
 /// Visits every directory below one: each `.lproj` becomes a language, each `Localizable.strings` goes to the language
-/// made last, whatever directory it lies in, and each member source file to the listener.
+/// made last, whatever directory it lies in, and each member source file to the listener. An entry that is gone, or out
+/// of reach, when the walk comes to it is passed over.
 class TreeWalk {
  public:
   TreeWalk(const TreeWalkInput& input, ScanMemory& state, LanguageArray& languages, TreeWalkListener& listener)
@@ -43,8 +45,12 @@ class TreeWalk {
   void contentsOfUrl(const FileUrl& directory);
 
  private:
+  void visit(const FileUrl& url, const DirectoryEntry& entry);
   void directoryEntry(const FileUrl& url, const DirectoryEntry& entry);
-  void fileEntry(const FileUrl& url);
+  void enter(const FileUrl& directory, const Result<std::vector<DirectoryEntry>>& entries);
+  void fileEntry(const FileUrl& url, const DirectoryEntry& entry);
+  void stringsFile(const FileUrl& url);
+  void sourceFile(const FileUrl& url, const DirectoryEntry& entry);
   void addLanguage(std::string_view directoryName, const FileUrl& directory);
   std::shared_ptr<Language> languageWithCode(LanguageCode code) const;
   void createLanguage(const std::string& code, const FileUrl& directory);

@@ -115,6 +115,47 @@ TEST(PackageSearch, DoesNotFollowALinkBackToADirectoryAroundIt) {
   EXPECT_EQ(files.listed(), (Names{"/P", "/P/a"}));
 }
 
+TEST(PackageSearch, PassesOverADirectoryThatCannotBeSearched) {
+  InMemoryFiles files;
+  files.addDirectory("/P/a/A.xcodeproj");
+  files.addDirectory("/P/b/B.xcodeproj");
+  files.makeUnsearchable("/P/a");
+  EXPECT_EQ(packageIn(files), "/P/b/B.xcodeproj");
+}
+
+TEST(PackageSearch, PassesOverAPackageThatIsGoneOrAFileByNow) {
+  InMemoryFiles files;
+  for (const char* path : {"/P/a", "/P/b.xcodeproj", "/P/c.xcodeproj", "/P/d.xcodeproj"}) files.addDirectory(path);
+  files.onList = [&files](const std::string& path) {
+    if (path != "/P/a") return;
+    files.remove("/P/b.xcodeproj");
+    files.addFile("/P/c.xcodeproj", "");
+  };
+  EXPECT_EQ(packageIn(files), "/P/d.xcodeproj");
+}
+
+TEST(PackageSearch, TakesAPackageThatWasABrokenLinkOrAFile) {
+  for (const char* package : {"/P/b.xcodeproj", "/P/c.xcodeproj"}) {
+    InMemoryFiles files;
+    files.addDirectory("/P/a");
+    files.addLink("/P/b.xcodeproj", "/elsewhere");
+    files.addFile("/P/c.xcodeproj", "");
+    files.onList = [&files, package](const std::string& path) {
+      if (path == "/P/a") files.remove(package), files.addDirectory(package);
+    };
+    EXPECT_EQ(packageIn(files), package);
+  }
+}
+
+TEST(PackageSearch, AsksOnlyAboutThePackage) {
+  InMemoryFiles files;
+  files.addFile("/P/a/b.m", "");
+  files.addDirectory("/P/c/d");
+  files.addDirectory("/P/e/E.xcodeproj");
+  EXPECT_EQ(packageIn(files), "/P/e/E.xcodeproj");
+  EXPECT_EQ(files.askedKinds(), Names{"/P/e/E.xcodeproj"});
+}
+
 TEST(PackageSearch, FindsNothingAfterACancel) {
   InMemoryFiles files;
   files.addDirectory("/P/A.xcodeproj");

@@ -53,7 +53,10 @@ class WalkedTree : private TreeWalkListener {
   void foundStringsFile(const Language& language, const FileUrl&) override {
     heard.push_back("strings of " + language.iso639());
   }
-  void sourceFile(const FileUrl& file) override { sources.push_back(file.path()); }
+  void sourceFile(const FileUrl& file, const Result<std::unique_ptr<ByteReader>>& opened) override {
+    sources.push_back(file.path());
+    if (!opened) heard.push_back(std::string(file.lastPathComponent()) + ": " + opened.error().sentence);
+  }
 };
 
 }  // namespace glossmill

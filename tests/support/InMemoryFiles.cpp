@@ -88,6 +88,19 @@ const InMemoryFiles::Node* InMemoryFiles::find(const std::string& resolvedPath) 
   return found == m_nodes.end() ? nullptr : &found->second;
 }
 
+const InMemoryFiles::Node* InMemoryFiles::reach(std::string_view path) const {
+  const std::string place = resolved(path);
+  return isReachable(resolved(path, false)) && isReachable(place) ? find(place) : nullptr;
+}
+
+bool InMemoryFiles::isReachable(std::string resolvedPath) const {
+  while (!resolvedPath.empty()) {
+    resolvedPath = withoutLastPart(resolvedPath);
+    if (m_unsearchable.contains(resolvedPath)) return false;
+  }
+  return true;
+}
+
 InMemoryFiles::Node& InMemoryFiles::put(std::string_view path, EntryKind kind) {
   const std::string place = resolved(path);
   for (std::string above = withoutLastPart(place); !find(above); above = withoutLastPart(above)) {
@@ -136,6 +149,11 @@ std::string InMemoryFiles::whereLinksLead(std::string_view path) {
   return resolved(path);
 }
 
+void InMemoryFiles::makeUnsearchable(std::string_view path) {
+  const std::lock_guard lock(m_mutex);
+  m_unsearchable.insert(resolved(path));
+}
+
 void InMemoryFiles::failListing(std::string_view path, std::string_view sentence) {
   const std::lock_guard lock(m_mutex);
   m_listFailures[std::string(path)] = sentence;
@@ -171,6 +189,11 @@ std::vector<std::string> InMemoryFiles::opened() {
   return m_opened;
 }
 
+std::vector<std::string> InMemoryFiles::askedKinds() {
+  const std::lock_guard lock(m_mutex);
+  return m_askedKinds;
+}
+
 std::vector<std::string> InMemoryFiles::written() {
   const std::lock_guard lock(m_mutex);
   return m_written;
@@ -182,8 +205,8 @@ std::vector<std::string> InMemoryFiles::created() {
 }
 
 DirectoryEntry InMemoryFiles::entryAt(const std::string& path, std::string_view name) const {
-  const Node* target = find(resolved(path));
   const bool isLink = find(path)->linkTarget.has_value();
+  const Node* target = isLink ? reach(path) : find(path);
   return {std::string(name), target ? target->kind : EntryKind::Missing, isLink};
 }
 
@@ -193,7 +216,7 @@ Result<std::vector<DirectoryEntry>> InMemoryFiles::list(const FileUrl& directory
   m_listed.push_back(directory.path());
   if (const std::optional<Error> failure = failureFor(m_listFailures, directory.path())) return *failure;
   const std::string place = resolved(directory.path());
-  const Node* node = find(place);
+  const Node* node = reach(directory.path());
   if (!node || node->kind != EntryKind::Directory) return missing("directory");
   std::vector<DirectoryEntry> entries;
   const std::string start = place + "/";
@@ -206,13 +229,14 @@ Result<std::vector<DirectoryEntry>> InMemoryFiles::list(const FileUrl& directory
 
 EntryKind InMemoryFiles::kindOf(const FileUrl& url) {
   const std::lock_guard lock(m_mutex);
-  const Node* node = find(resolved(url.path()));
+  m_askedKinds.push_back(url.path());
+  const Node* node = reach(url.path());
   return node ? node->kind : EntryKind::Missing;
 }
 
 std::optional<FileIdentity> InMemoryFiles::identityOf(const FileUrl& url) {
   const std::lock_guard lock(m_mutex);
-  const Node* node = find(resolved(url.path()));
+  const Node* node = reach(url.path());
   if (!node) return std::nullopt;
   return FileIdentity{1, node->number};
 }
@@ -222,7 +246,7 @@ Result<std::unique_ptr<ByteReader>> InMemoryFiles::open(const FileUrl& file) {
   const std::lock_guard lock(m_mutex);
   m_opened.push_back(file.path());
   if (const std::optional<Error> failure = failureFor(m_openFailures, file.path())) return *failure;
-  const Node* node = find(resolved(file.path()));
+  const Node* node = reach(file.path());
   if (!node) return missing("file");
   if (node->kind == EntryKind::Directory) return Error{"It is a directory, not a file."};
   const auto failure = m_readFailures.find(file.path());

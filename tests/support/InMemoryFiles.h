@@ -6,6 +6,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +37,8 @@ class InMemoryFiles : public Files {
 
   // ---- What is to fail from now on, with this sentence as the error ----
 
+  /// The directory can be listed, but nothing in it reached: what it holds is not there for whoever asks.
+  void makeUnsearchable(std::string_view path);
   void failListing(std::string_view path, std::string_view sentence);
   void failOpening(std::string_view path, std::string_view sentence);
   /// The file opens and gives its first `bytes` bytes.
@@ -47,6 +50,7 @@ class InMemoryFiles : public Files {
 
   std::vector<std::string> listed();
   std::vector<std::string> opened();
+  std::vector<std::string> askedKinds();
   // Successes and failures alike.
   std::vector<std::string> written();
   std::vector<std::string> created();
@@ -80,6 +84,9 @@ class InMemoryFiles : public Files {
 
   std::string resolved(std::string_view path, bool followsLast = true) const;
   const Node* find(const std::string& resolvedPath) const;
+  /// What a path leads to; null also when a directory on the way cannot be searched.
+  const Node* reach(std::string_view path) const;
+  bool isReachable(std::string resolvedPath) const;
   Node& put(std::string_view path, EntryKind kind);
   DirectoryEntry entryAt(const std::string& path, std::string_view name) const;
   Outcome create(const FileUrl& directory, bool intermediate);
@@ -87,6 +94,7 @@ class InMemoryFiles : public Files {
   std::mutex m_mutex;
   std::map<std::string, Node> m_nodes;  ///< by path without links; the root is ""
   std::uint64_t m_made = 0;
+  std::set<std::string> m_unsearchable;  ///< resolved paths
   Sentences m_listFailures;
   Sentences m_openFailures;
   Sentences m_writeFailures;
@@ -94,6 +102,7 @@ class InMemoryFiles : public Files {
   std::map<std::string, ReadFailure, std::less<>> m_readFailures;
   std::vector<std::string> m_listed;
   std::vector<std::string> m_opened;
+  std::vector<std::string> m_askedKinds;
   std::vector<std::string> m_written;
   std::vector<std::string> m_created;
 };
