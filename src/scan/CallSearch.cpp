@@ -9,6 +9,7 @@ namespace glossmill {
 namespace {
 
 constexpr std::string_view kWord = "nslocalizedstring";
+static_assert(kWord.size() == kCallNameLength);
 constexpr std::size_t kPairPlace = 8;  // of "ze", the pair of the word's letters that source code holds least often
 
 /// Exact for what is compared here: only letters come out as lower-case letters.

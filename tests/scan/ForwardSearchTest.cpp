@@ -11,24 +11,33 @@ namespace {
 
 TEST(ForwardSearch, FindsTheFirstPlaceAtOrAfterAPlace) {
   ForwardSearch search("a,b,c", ',');
-  EXPECT_EQ(search.next(0), 1U);
-  EXPECT_EQ(search.next(1), 1U);
-  EXPECT_EQ(search.next(2), 3U);
-  EXPECT_EQ(search.next(4), 5U);
-  EXPECT_EQ(search.next(5), 5U);
+  EXPECT_EQ(search.next(0, 5), 1U);
+  EXPECT_EQ(search.next(1, 5), 1U);
+  EXPECT_EQ(search.next(2, 5), 3U);
+  EXPECT_EQ(search.next(4, 5), 5U);
+  EXPECT_EQ(search.next(5, 5), 5U);
 }
 
-TEST(ForwardSearch, GivesTheLengthOfATextThatDoesNotHoldTheByte) {
-  EXPECT_EQ(ForwardSearch("abc", ',').next(1), 3U);
-  EXPECT_EQ(ForwardSearch("", ',').next(0), 0U);
+TEST(ForwardSearch, FindsNothingAtOrBehindTheLimit) {
+  ForwardSearch search("a,b,c", ',');
+  EXPECT_EQ(search.next(0, 1), 1U);
+  EXPECT_EQ(search.next(0, 2), 1U);
+  EXPECT_EQ(search.next(2, 3), 3U);
+  EXPECT_EQ(search.next(3, 2), 2U);
+  EXPECT_EQ(search.next(2, 4), 3U);
+}
+
+TEST(ForwardSearch, GivesTheLimitInATextThatDoesNotHoldTheByte) {
+  EXPECT_EQ(ForwardSearch("abc", ',').next(1, 3), 3U);
+  EXPECT_EQ(ForwardSearch("", ',').next(0, 0), 0U);
 }
 
 TEST(ForwardSearch, AnswersQuestionsThatGoBackwardsToo) {
   ForwardSearch search(",a,b", ',');
-  EXPECT_EQ(search.next(1), 2U);
-  EXPECT_EQ(search.next(0), 0U);
-  EXPECT_EQ(search.next(3), 4U);
-  EXPECT_EQ(search.next(2), 2U);
+  EXPECT_EQ(search.next(1, 4), 2U);
+  EXPECT_EQ(search.next(0, 4), 0U);
+  EXPECT_EQ(search.next(3, 4), 4U);
+  EXPECT_EQ(search.next(2, 4), 2U);
 }
 
 TEST(ForwardSearch, AgreesWithAPlainSearchOnRandomQuestions) {
@@ -39,7 +48,8 @@ TEST(ForwardSearch, AgreesWithAPlainSearchOnRandomQuestions) {
     ForwardSearch search(text, ',');
     for (int question = 0; question < 30; ++question) {
       const std::size_t from = random() % (text.size() + 1);
-      ASSERT_EQ(search.next(from), std::min(text.find(',', from), text.size())) << text << " from " << from;
+      const std::size_t limit = from + random() % (text.size() - from + 1);
+      ASSERT_EQ(search.next(from, limit), std::min(text.find(',', from), limit)) << text << " " << from << " " << limit;
     }
   }
 }

@@ -223,6 +223,44 @@ TEST(SourceScanner, TellsThatItWasCanceled) {
   EXPECT_TRUE(ScannedSource("", canceled).wasCanceled);
 }
 
+TEST(SourceScanner, RejectsTheCallDuringWhichItIsCanceled) {
+  for (const char* text : {R"(NSLocalizedString(@"k", @"c"))", R"(NSLocalizedString(nil))", "NSLocalizedString"}) {
+    CancelFlag canceled;
+    SourceScanner scanner(text, canceled);
+    ASSERT_TRUE(scanner.next());
+    canceled.set(true);
+    EXPECT_EQ(std::get<CallRejection>(scanner.read()), CallRejection::Canceled) << text;
+    EXPECT_EQ(scanner.excerpt(), text);
+  }
+}
+
+TEST(SourceScanner, RejectsACallInsideAnotherDuringWhichItIsCanceled) {
+  CancelFlag canceled;
+  SourceScanner scanner(R"(NSLocalizedString(NSLocalizedString(@"k", @"c")))", canceled);
+  ASSERT_TRUE(scanner.next());
+  EXPECT_TRUE(std::holds_alternative<SourceString>(scanner.read()));
+  ASSERT_TRUE(scanner.next());
+  canceled.set(true);
+  EXPECT_EQ(std::get<CallRejection>(scanner.read()), CallRejection::Canceled);
+}
+
+TEST(SourceScanner, RejectsACallWhenItIsMetAndBeforeTheNextIsLookedAt) {
+  CancelFlag canceled;
+  std::vector<std::string> rejected;
+  const auto cancelAtOnce = [&](std::string_view excerpt, CallRejection) {
+    rejected.emplace_back(excerpt);
+    canceled.set(true);
+  };
+  EXPECT_TRUE(scanSource("NSLocalizedString(1); NSLocalizedString(2)", canceled, cancelAtOnce).canceled);
+  EXPECT_EQ(rejected, BadCalls{"NSLocalizedString(1); NSLocalizedString(2)"});
+}
+
+TEST(SourceScanner, IsCanceledDuringTheLastCallToo) {
+  CancelFlag canceled;
+  const auto cancel = [&](std::string_view, CallRejection) { canceled.set(true); };
+  EXPECT_TRUE(scanSource(R"(NSLocalizedString(@"k", @"c") NSLocalizedString(2))", canceled, cancel).canceled);
+}
+
 TEST(SourceScanner, TakesManyNestedCallsApart) {
   constexpr std::size_t kCalls = 30000;
   std::string text;
