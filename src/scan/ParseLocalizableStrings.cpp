@@ -1,5 +1,7 @@
 #include "scan/ParseLocalizableStrings.h"
 
+#include <span>
+
 #include "model/KeyReader.h"
 #include "platform/ReadText.h"
 #include "scan/TranslationColumns.h"
@@ -15,18 +17,16 @@ class StringsFilesPhase {
       : m_input(input), m_result(result), m_keys(result.stringList.keys()), m_columns(result.stringList.records()) {}
 
   ScanEnd run() {
-    for (const auto& language : *m_result.languagesList) {
-      if (m_input.canceled.isSet()) return ScanEnd::Canceled;
-      if (parse(*language) == ScanEnd::Canceled) return ScanEnd::Canceled;
-    }
+    const ScanEnd end = parseAll();
     m_columns.moveIntoRecords();
-    return ScanEnd::Complete;
+    return end;
   }
 
  private:
   void tell(const ScanEvent& event) { m_input.listener.happened(event); }
+  ScanEnd parseAll();
   ScanEnd parse(const Language& language);
-  bool tellDiagnostics(const FileUrl& file, const StringsFileContent& content);
+  ScanEnd store(const Language& language, const StringsFileContent& content);
   void tellDiagnostic(const FileUrl& file, const StringsFileDiagnostic& diagnostic);
 
   const ScanInput& m_input;
@@ -34,6 +34,13 @@ class StringsFilesPhase {
   KeyReader m_keys;
   TranslationColumns m_columns;
 };
+
+ScanEnd StringsFilesPhase::parseAll() {
+  for (const auto& language : *m_result.languagesList) {
+    if (m_input.canceled.isSet() || parse(*language) == ScanEnd::Canceled) return ScanEnd::Canceled;
+  }
+  return ScanEnd::Complete;
+}
 
 ScanEnd StringsFilesPhase::parse(const Language& language) {
   const FileUrl& file = language.localizedStringUrl();
@@ -51,25 +58,28 @@ ScanEnd StringsFilesPhase::parse(const Language& language) {
   }
   const StringsFileContent content = parser.finish();
   tell(LinesCounted{file, content.lineCount});
-  if (content.canceled || !tellDiagnostics(file, content)) return ScanEnd::Canceled;
-  m_columns.add(language.code(), content.entries);
-  return ScanEnd::Complete;
+  if (content.canceled || m_input.canceled.isSet()) return ScanEnd::Canceled;
+  return store(language, content);
 }
 
-/// A cancel is noticed before the next line; behind the last one nobody looks.
-bool StringsFilesPhase::tellDiagnostics(const FileUrl& file, const StringsFileContent& content) {
+/// A cancel is noticed before the next line, and the lines in front of it count; behind the last one nobody looks.
+ScanEnd StringsFilesPhase::store(const Language& language, const StringsFileContent& content) {
+  const std::span entries(content.entries);
   for (const StringsFileDiagnostic& diagnostic : content.diagnostics) {
-    tellDiagnostic(file, diagnostic);
-    if (m_input.canceled.isSet() && diagnostic.line < content.lineCount) return false;
+    tellDiagnostic(language.localizedStringUrl(), diagnostic);
+    if (!m_input.canceled.isSet() || diagnostic.line == content.lineCount) continue;
+    m_columns.add(language.code(), entries.first(diagnostic.entriesBefore));
+    return ScanEnd::Canceled;
   }
-  return true;
+  m_columns.add(language.code(), entries);
+  return ScanEnd::Complete;
 }
 
 void StringsFilesPhase::tellDiagnostic(const FileUrl& file, const StringsFileDiagnostic& diagnostic) {
   if (diagnostic.kind == StringsFileDiagnostic::Kind::NoMatch) {
-    tell(EntryWithoutMatch{file, diagnostic.text, diagnostic.line});
+    tell(EntryWithoutMatch{file, diagnostic.text.view(), diagnostic.line});
   } else {
-    tell(EntryRejected{file, diagnostic.text, diagnostic.line});
+    tell(EntryRejected{file, diagnostic.text.view(), diagnostic.line});
   }
 }
 

@@ -4,7 +4,7 @@
 
 namespace glossmill {
 
-void TranslationColumns::add(LanguageCode language, const std::vector<StringsFileEntry>& entries) {
+void TranslationColumns::add(LanguageCode language, std::span<const StringsFileEntry> entries) {
   if (entries.empty()) return;
   Column& column = m_columns.emplace_back(Column{language, std::vector<StoredText>(m_records.size())});
   for (const StringsFileEntry& entry : entries) column.values[entry.key] = entry.value;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "model/LocalizeString.h"
@@ -15,7 +16,7 @@ class TranslationColumns {
   explicit TranslationColumns(const StringArray& records) : m_records(records) {}
 
   /// A later entry of a key replaces an earlier one.
-  void add(LanguageCode language, const std::vector<StringsFileEntry>& entries);
+  void add(LanguageCode language, std::span<const StringsFileEntry> entries);
   /// The values must lie in the records' own arena.
   void moveIntoRecords();
 

@@ -149,7 +149,8 @@ void StringsFileParser::takeValue(const Line& line, KeyIndex::Number key) {
 }
 
 void StringsFileParser::report(StringsFileDiagnostic::Kind kind, std::string_view text) {
-  m_content.diagnostics.push_back({kind, std::string(text), m_content.lineCount});
+  m_content.diagnostics.push_back(
+      {kind, m_content.diagnosticTexts.add(text), m_content.lineCount, m_content.entries.size()});
 }
 
 }  // namespace glossmill

@@ -23,14 +23,16 @@ struct StringsFileEntry {
 struct StringsFileDiagnostic {
   enum class Kind { BadFormat, NoMatch };
   Kind kind = Kind::BadFormat;
-  std::string text;       ///< what was rejected, or the key without a match
-  std::int64_t line = 0;  ///< from 1, in the text without comments
+  StoredText text;                ///< what was rejected, or the key without a match; lies in the content
+  std::int64_t line = 0;          ///< from 1, in the text without comments
+  std::size_t entriesBefore = 0;  ///< so many entries stand before this line
 };
 
 /// What one strings file holds, entries and diagnostics each in the order of its lines.
 struct StringsFileContent {
   std::vector<StringsFileEntry> entries;
   std::vector<StringsFileDiagnostic> diagnostics;
+  TextArena diagnosticTexts;
   std::int64_t lineCount = 0;  ///< of the text without comments; the empty text is one line
   bool canceled = false;       ///< then lines may be missing from the above, but all of them are counted
 };

@@ -10,6 +10,8 @@
 namespace glossmill {
 namespace {
 
+using Entries = std::vector<StringsFileEntry>;
+
 /// Three strings, numbered 0 to 2.
 class TranslationColumnsTest : public testing::Test {
  protected:
@@ -27,8 +29,8 @@ class TranslationColumnsTest : public testing::Test {
 
 TEST_F(TranslationColumnsTest, GivesEachRecordItsTranslations) {
   TranslationColumns columns(strings.records());
-  columns.add(kGerman, {entry(2, "c de"), entry(0, "a de")});
-  columns.add(kFrench, {entry(0, "a fr")});
+  columns.add(kGerman, Entries{entry(2, "c de"), entry(0, "a de")});
+  columns.add(kFrench, Entries{entry(0, "a fr")});
   columns.moveIntoRecords();
   EXPECT_EQ(translation(0, kGerman), "a de");
   EXPECT_EQ(translation(0, kFrench), "a fr");
@@ -41,13 +43,13 @@ TEST_F(TranslationColumnsTest, GivesEachRecordItsTranslations) {
 
 TEST_F(TranslationColumnsTest, GivesNothingBeforeItIsTold) {
   TranslationColumns columns(strings.records());
-  columns.add(kGerman, {entry(0, "a de")});
+  columns.add(kGerman, Entries{entry(0, "a de")});
   EXPECT_EQ(translation(0, kGerman), "none");
 }
 
 TEST_F(TranslationColumnsTest, TakesTheLaterEntryOfAKey) {
   TranslationColumns columns(strings.records());
-  columns.add(kGerman, {entry(0, "first"), entry(1, "b"), entry(0, "second")});
+  columns.add(kGerman, Entries{entry(0, "first"), entry(1, "b"), entry(0, "second")});
   columns.moveIntoRecords();
   EXPECT_EQ(translation(0, kGerman), "second");
   EXPECT_EQ(strings.records()[0]->languagesDict().count(), 1U);
@@ -55,7 +57,7 @@ TEST_F(TranslationColumnsTest, TakesTheLaterEntryOfAKey) {
 
 TEST_F(TranslationColumnsTest, TakesAnEmptyTextForATranslation) {
   TranslationColumns columns(strings.records());
-  columns.add(kGerman, {entry(0, "")});
+  columns.add(kGerman, Entries{entry(0, "")});
   columns.moveIntoRecords();
   EXPECT_EQ(translation(0, kGerman), "");
 }

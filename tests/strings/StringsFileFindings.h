@@ -49,7 +49,7 @@ inline StringsFileFindings parseStringsFile(const std::vector<std::string_view>&
     findings.entries.emplace_back(keys[entry.key], entry.value.view());
   for (const StringsFileDiagnostic& diagnostic : content.diagnostics) {
     const bool noMatch = diagnostic.kind == StringsFileDiagnostic::Kind::NoMatch;
-    findings.diagnostics.push_back((noMatch ? "no match: " : "bad format: ") + diagnostic.text);
+    findings.diagnostics.push_back((noMatch ? "no match: " : "bad format: ") + std::string(diagnostic.text.view()));
     findings.diagnosticLines.push_back(diagnostic.line);
   }
   findings.lineCount = content.lineCount;
