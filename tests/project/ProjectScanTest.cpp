@@ -245,5 +245,19 @@ TEST_F(ProjectScan, ReportsWhatItLeftOutUntilTheProjectIsClosed) {
   EXPECT_TRUE(project().scanReport().files().empty());
 }
 
+TEST_F(ProjectScan, DoesNotTakeASourceThatIsGoneForTheOneBeingRead) {
+  addPackage("a.m b.m");
+  addSource("Harbour.app/a.m", "Open");
+  addSource("Harbour.app/b.m", "Shut");
+  host.files.onOpen = [this](const std::string& path) {
+    if (path == "/P/Harbour.app/a.m") host.files.remove("/P/Harbour.app/b.m");
+  };
+  open();
+  EXPECT_EQ(project().actualParseFileName(), FileUrl("/P/Harbour.app/a.m"));
+  EXPECT_EQ(files(), Lines{"/P/Harbour.app/a.m"});
+  EXPECT_EQ(log(), Lines());
+  EXPECT_EQ(systemLog(), Lines());
+}
+
 }  // namespace
 }  // namespace glossmill
