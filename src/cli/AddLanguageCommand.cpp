@@ -14,6 +14,7 @@ struct AddLanguageOptions {
   std::string code;
   bool save = false;
   bool dryRun = false;
+  WritingOptions writing;
 };
 
 /// False when the project has the language, though the dialog would take it: at the next scan the strings file of the
@@ -38,7 +39,9 @@ ExitCode addLanguageToProject(ProjectSession& session, const AddLanguageOptions&
 }
 
 ExitCode addNewLanguage(const AddLanguageOptions& options, Console& console) {
-  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun)});
+  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun),
+                                   .writing = &options.writing,
+                                   .command = "add-language " + options.code});
   const ExitCode opened = session.openPackage(options.directory);
   if (opened != ExitCode::Fine) return opened;
   if (!session.project().iso639Dict().nameOf(options.code)) {
@@ -60,6 +63,7 @@ void addAddLanguageCommand(CLI::App& program, TypedCommand& typed) {
   addRequired(command, "CODE", options->code, "ISO 639 code of the language, two or three letters");
   addFlag(command, "--save", options->save, "Write its strings file too");
   addDryRun(command, options->dryRun);
+  addWritingOptions(command, options->writing);
 }
 
 }  // namespace glossmill

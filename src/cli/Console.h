@@ -34,6 +34,8 @@ class Console {
   void message(std::string_view text);
   /// Only when verbose.
   void diagnostic(std::string_view text);
+  /// Also when quiet.
+  void note(std::string_view text) { append("", text); }
   /// Always, and at once.
   void error(std::string_view text);
 

@@ -12,10 +12,13 @@ struct FillOptions {
   std::string directory;
   std::string language;
   bool dryRun = false;
+  WritingOptions writing;
 };
 
 ExitCode fill(const FillOptions& options, Console& console) {
-  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun)});
+  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun),
+                                   .writing = &options.writing,
+                                   .command = "fill --language " + options.language});
   const OpenedLanguage opened = openLanguage(session, options.directory, options.language);
   if (opened.code != ExitCode::Fine) return opened.code;
   const std::size_t before = session.project().missingTranslations(*opened.language);
@@ -38,6 +41,7 @@ void addFillCommand(CLI::App& program, TypedCommand& typed) {
   addDirectory(command, options->directory);
   addLanguage(command, options->language);
   addDryRun(command, options->dryRun);
+  addWritingOptions(command, options->writing);
 }
 
 }  // namespace glossmill

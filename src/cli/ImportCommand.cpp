@@ -17,6 +17,7 @@ struct ImportOptions {
   std::string language;
   std::string file;
   bool dryRun = false;
+  WritingOptions writing;
 };
 
 using Translations = std::vector<std::optional<std::string>>;
@@ -70,7 +71,9 @@ Result<ImportTable> readTable(ProjectSession& session, const FileUrl& file) {
 }
 
 ExitCode importLanguage(const ImportOptions& options, Console& console) {
-  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun)});
+  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun),
+                                   .writing = &options.writing,
+                                   .command = "import --language " + options.language});
   const OpenedLanguage opened = openLanguage(session, options.directory, options.language);
   if (opened.code != ExitCode::Fine) return opened.code;
   const FileUrl file = absoluteUrl(options.file);
@@ -100,6 +103,7 @@ void addImportCommand(CLI::App& program, TypedCommand& typed) {
   addRequired(command, "FILE", options->file, "Text file that was exported and filled in");
   addLanguage(command, options->language);
   addDryRun(command, options->dryRun);
+  addWritingOptions(command, options->writing);
 }
 
 }  // namespace glossmill

@@ -2,6 +2,7 @@
 
 #include "cli/Interrupt.h"
 #include "cli/Paths.h"
+#include "safety/UnfinishedSave.h"
 
 namespace glossmill {
 
@@ -36,6 +37,23 @@ std::string_view changeText(FileChange change, bool pretended) {
   return pretended ? "is unchanged      " : "unchanged  ";
 }
 
+/// Nothing for a file that could not be written.
+std::optional<FileChange> changeOf(const FileOutcome& outcome) {
+  switch (outcome.kind) {
+    case FileOutcome::Kind::Unchanged:
+      return FileChange::Unchanged;
+    case FileOutcome::Kind::Created:
+      return FileChange::Created;
+    case FileOutcome::Kind::Changed:
+    case FileOutcome::Kind::Removed:
+      return FileChange::Changed;
+    case FileOutcome::Kind::Failed:
+    case FileOutcome::Kind::DirectoryFailed:
+      break;
+  }
+  return std::nullopt;
+}
+
 /// The one delegate of the program, which ends with it.
 AppDelegate* keptDelegate(const Host& host) {
   static AppDelegate* const kDelegate = new AppDelegate(host);
@@ -58,8 +76,8 @@ ProjectSession::ProjectSession(Console& console, Options options)
 }
 
 Host ProjectSession::hostParts() {
-  return {m_files,           m_host.defaults,   m_host.notifications, m_host.threads, m_host.panels,     m_host.sheets,
-          m_host.interfaces, m_host.recentMenu, m_host.systemLog,     m_host.bundle,  m_host.application};
+  return {m_files,           m_host.defaults,   m_host.notifications, m_host.threads, m_host.panels,      m_host.sheets,
+          m_host.interfaces, m_host.recentMenu, m_host.systemLog,     m_host.bundle,  m_host.application, m_host.saves};
 }
 
 ExitCode ProjectSession::open(const std::string& directory) {
@@ -69,9 +87,45 @@ ExitCode ProjectSession::open(const std::string& directory) {
     m_console.error("cannot open " + inQuotes(directory) + ": " + usable.error().sentence);
     return ExitCode::Unusable;
   }
+  const ExitCode kept = keepForWriting(url);
+  if (kept != ExitCode::Fine) return kept;
   m_delegate->openProjectWindow();
-  project().openProjectAt(url);
+  project().openProjectAt(url, projectOptions());
   return finishJob();
+}
+
+ProjectOptions ProjectSession::projectOptions() const {
+  ProjectOptions options;
+  if (m_options.writing) options.allowance = m_options.writing->allowance();
+  options.pretendsToSave = m_options.files == ReportingFiles::Mode::Pretend;
+  options.command = m_options.command;
+  options.version = GLOSSMILL_VERSION;
+  return options;
+}
+
+/// A dry run keeps nobody away, and is kept away by nobody.
+ExitCode ProjectSession::keepForWriting(const FileUrl& directory) {
+  if (!m_options.writing || m_options.files == ReportingFiles::Mode::Pretend) {
+    mentionUnfinishedSave(directory);
+    return ExitCode::Fine;
+  }
+  m_lock.emplace(m_host.files, m_host.saves, directory);
+  const ExitCode locked = takeLock(*m_lock, directory, *m_options.writing, m_console);
+  if (locked != ExitCode::Fine) return locked;
+  SavedVersions versions(m_host.files, m_host.saves, directory);
+  if (!findUnfinishedSave(m_host.files, m_host.saves, versions)) return ExitCode::Fine;
+  m_console.error("a save of this project was cut short; nothing was done");
+  m_console.error("finish it with: glossmill-cli restore --finish " + inQuotes(directory.path()));
+  m_console.error("take it back with: glossmill-cli restore " + inQuotes(directory.path()));
+  return ExitCode::Unusable;
+}
+
+void ProjectSession::mentionUnfinishedSave(const FileUrl& directory) {
+  for (const SavedVersion& version : SavedVersions(m_host.files, m_host.saves, directory).list()) {
+    if (version.isFinished) continue;
+    m_console.message("A save of this project was cut short; see: glossmill-cli restore --help");
+    return;
+  }
 }
 
 ExitCode ProjectSession::openPackage(const std::string& directory, ExitCode without) {
@@ -96,6 +150,24 @@ ExitCode ProjectSession::saveProject() {
   return allWritten ? ExitCode::Fine : ExitCode::Unusable;
 }
 
+/// What was not written again is said whether or not anybody wants messages.
+void ProjectSession::reportSave() const {
+  const SaveReport& save = project().lastSave();
+  if (save.refusal) explainRefusal(*save.refusal, project().projectDirectory(), m_console);
+  for (const SavedLanguage& language : save.languages) {
+    if (language.outcome.hasOtherNames) {
+      m_console.message(inQuotes(shownPath(project().projectDirectory(), language.file)) +
+                        " has other names (hard links), which keep the former text");
+    }
+    if (language.notWritten() == 0U || !language.outcome.isWritten()) continue;
+    const std::string before = language.entriesBefore ? std::to_string(*language.entriesBefore) : "unknown";
+    const std::string lost = language.notWritten() ? std::to_string(*language.notWritten()) : "unknown";
+    m_console.note(language.code + ": " + before + " entries before, " + std::to_string(language.entriesAfter) +
+                   " after, " + lost + " not written again" +
+                   (save.id ? "; glossmill-cli restore --from " + *save.id + " brings them back" : ""));
+  }
+}
+
 void ProjectSession::reportFiles() const {
   const bool pretended = m_options.files == ReportingFiles::Mode::Pretend;
   std::string text;
@@ -104,7 +176,18 @@ void ProjectSession::reportFiles() const {
     text += shownPath(project().projectDirectory(), file.url);
     text += file.isDirectory ? "/\n" : "\n";
   }
+  for (const SavedLanguage& language : project().lastSave().languages) {
+    for (const FileUrl& directory : language.outcome.directories) {
+      text += changeText(FileChange::Created, pretended);
+      text += std::string(shownPath(project().projectDirectory(), directory)) + "/\n";
+    }
+    const std::optional<FileChange> change = changeOf(language.outcome);
+    if (!change) continue;
+    text += changeText(*change, pretended);
+    text += std::string(shownPath(project().projectDirectory(), language.file)) + "\n";
+  }
   m_console.data(text);
+  reportSave();
 }
 
 /// The log grows line by line, and starts anew when a project is closed.
@@ -123,12 +206,12 @@ void ProjectSession::takeSystemLogLine(std::string_view line) {
   m_console.diagnostic(line);
 }
 
-/// Every alert has one button. One that follows a failed write is about it.
+/// Every alert has one button.
 AlertAnswer ProjectSession::answerAlert(const AlertRequest& alert) {
-  if (const auto& failure = m_files.lastFailure()) {
+  if (alert.cause) {
     m_console.error(alert.message);
-    m_console.error("cannot write " + inQuotes(shownPath(project().projectDirectory(), failure->url)) + ": " +
-                    failure->error.sentence);
+    m_console.error("cannot write " + inQuotes(shownPath(project().projectDirectory(), alert.cause->file)) + ": " +
+                    alert.cause->error.sentence);
   } else if (m_options.files == ReportingFiles::Mode::Write) {
     m_console.message(alert.message);
   }

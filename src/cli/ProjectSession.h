@@ -9,6 +9,7 @@
 #include "cli/Console.h"
 #include "cli/ExitCode.h"
 #include "cli/ReportingFiles.h"
+#include "cli/WritingOptions.h"
 #include "host/HeadlessHost.h"
 
 namespace glossmill {
@@ -20,6 +21,9 @@ class ProjectSession {
   struct Options {
     bool keepsSystemLog = false;
     ReportingFiles::Mode files = ReportingFiles::Mode::Write;
+    /// Of a command that writes the project: it is kept for this process from the first read on. Outlives the session.
+    const WritingOptions* writing = nullptr;
+    std::string command = {};  ///< by which words it was started, for the record of its saves
   };
 
   /// `console` outlives the session.
@@ -52,6 +56,10 @@ class ProjectSession {
 
  private:
   Host hostParts();
+  ProjectOptions projectOptions() const;
+  ExitCode keepForWriting(const FileUrl& directory);
+  void mentionUnfinishedSave(const FileUrl& directory);
+  void reportSave() const;
   void showLog(std::string_view wholeLog);
   void takeSystemLogLine(std::string_view line);
   AlertAnswer answerAlert(const AlertRequest& alert);
@@ -66,6 +74,7 @@ class ProjectSession {
   std::chrono::steady_clock::time_point m_jobStart;
   HeadlessHost m_host;
   ReportingFiles m_files;
+  std::optional<ProjectLock> m_lock;
   /// Never deleted: giving a large project's memory back piece by piece would take longer than ending the program does.
   AppDelegate* const m_delegate;
 };

@@ -128,8 +128,12 @@ ExitCode RestoreRun::write(const SavedVersion& version, const RestorePlan& plan)
     for (const FileText& text : plan.texts) report(text, nullptr);
     return ExitCode::Fine;
   }
-  const SaveOrder order{m_project, GLOSSMILL_VERSION, "restore --from " + version.id, std::time(nullptr),
-                        m_options.writing.allowance()};
+  const SaveOrder order{m_project,
+                        GLOSSMILL_VERSION,
+                        "restore --from " + version.id,
+                        std::time(nullptr),
+                        m_options.writing.allowance(),
+                        m_options.dryRun};
   const SaveResult result = SaveTransaction(m_files, m_disk, order).save(plan.texts);
   if (result.refusal) {
     explainRefusal(*result.refusal, resolvedProject(), m_console);

@@ -11,10 +11,12 @@ namespace {
 struct SaveOptions {
   std::string directory;
   bool dryRun = false;
+  WritingOptions writing;
 };
 
 ExitCode save(const SaveOptions& options, Console& console) {
-  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun)});
+  ProjectSession session(
+      console, {.files = ReportingFiles::modeFor(options.dryRun), .writing = &options.writing, .command = "save"});
   const ExitCode opened = session.openPackage(options.directory);
   if (opened != ExitCode::Fine) return opened;
   return session.saveProject();
@@ -29,6 +31,7 @@ void addSaveCommand(CLI::App& program, TypedCommand& typed) {
                  [options](Console& console) { return save(*options, console); });
   addDirectory(command, options->directory);
   addDryRun(command, options->dryRun);
+  addWritingOptions(command, options->writing);
 }
 
 }  // namespace glossmill

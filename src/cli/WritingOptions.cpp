@@ -34,7 +34,7 @@ bool WritingOptions::allows(const std::string& what) const {
 }
 
 SaveAllowance WritingOptions::allowance() const {
-  return {allows("outside"), allows("changed"), allows("no-copy")};
+  return {allows("incomplete"), allows("outside"), allows("changed"), allows("no-copy")};
 }
 
 void addWritingOptions(CLI::App& command, WritingOptions& options) {

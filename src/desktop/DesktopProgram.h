@@ -19,6 +19,7 @@
 #include "host/HostThreads.h"
 #include "host/LocalNotificationCenter.h"
 #include "host/PosixFiles.h"
+#include "host/PosixSaveDisk.h"
 
 namespace glossmill {
 
@@ -50,6 +51,7 @@ class DesktopProgram {
 
   EmbeddedBundle m_bundle;
   PosixFiles m_files;
+  PosixSaveDisk m_saves;
   SettingsDefaults m_defaults;
   LocalNotificationCenter m_notifications;
   HostThreads m_threads;

@@ -13,6 +13,7 @@
 #include "host/LocalNotificationCenter.h"
 #include "host/MemoryDefaults.h"
 #include "host/PosixFiles.h"
+#include "host/PosixSaveDisk.h"
 #include "platform/Host.h"
 
 namespace glossmill {
@@ -23,12 +24,13 @@ struct HeadlessHost {
   explicit HeadlessHost(EmbeddedBundle::StringsTable strings = {}) : bundle(std::move(strings)) {}
 
   Host parts() {
-    return {files,      defaults,   notifications, threads, panels,     sheets,
-            interfaces, recentMenu, systemLog,     bundle,  application};
+    return {files,      defaults,   notifications, threads, panels,      sheets,
+            interfaces, recentMenu, systemLog,     bundle,  application, saves};
   }
   void runUntilIdle(const std::function<void()>& tick = {}) { threads.runUntilIdle(tick); }
 
   PosixFiles files;
+  PosixSaveDisk saves;
   MemoryDefaults defaults;
   LocalNotificationCenter notifications;
   HeadlessPanels panels;

@@ -10,6 +10,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <memory>
 #include <string>
 #include <utility>
@@ -190,6 +191,10 @@ Result<std::unique_ptr<DirectoryLock>> PosixSaveDisk::tryLock(const FileUrl& dir
 
 std::int64_t PosixSaveDisk::processId() const {
   return getpid();
+}
+
+std::int64_t PosixSaveDisk::now() const {
+  return std::time(nullptr);
 }
 
 }  // namespace glossmill

@@ -24,6 +24,7 @@ class PosixSaveDisk : public SaveDisk {
   Result<std::unique_ptr<GrowingFile>> openGrowing(const FileUrl& file) override;
   Result<std::unique_ptr<DirectoryLock>> tryLock(const FileUrl& directory) override;
   std::int64_t processId() const override;
+  std::int64_t now() const override;
 
  private:
   FileUrl m_stateDirectory;  ///< empty where the environment names none

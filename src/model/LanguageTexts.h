@@ -15,6 +15,8 @@ class LanguageTexts {
   virtual void start(LanguageCode language) = 0;
   /// The next piece of it, cut between characters; empty at the end. Valid until the next call.
   virtual std::string_view nextPiece() = 0;
+  /// How many entries the text of a language holds.
+  virtual std::size_t entryCount(LanguageCode language) const = 0;
 };
 
 }  // namespace glossmill

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <variant>
@@ -82,9 +83,15 @@ struct EntryWithoutMatch {
   std::int64_t line;  ///< from 1, in the text without comments
 };
 
+/// The end of a strings file that could be read.
+struct StringsFileRead {
+  const FileUrl& file;
+  std::size_t entries;  ///< that were taken, repetitions of a key among them
+};
+
 using ScanEvent = std::variant<PackageFound, NoPackageFound, ProjectFileUnread, OldLanguageName, StringsFileFound,
                                SourceBegins, SourceUnread, CallRejected, StringsFileMissing, StringsFileBegins,
-                               StringsFileUnread, LinesCounted, EntryRejected, EntryWithoutMatch>;
+                               StringsFileUnread, LinesCounted, EntryRejected, EntryWithoutMatch, StringsFileRead>;
 
 /// Hears of what happens while a project is read: at once, in its order, on the thread that reads.
 class ScanListener {

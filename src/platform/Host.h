@@ -7,6 +7,7 @@
 #include "platform/Menu.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Panels.h"
+#include "platform/SaveDisk.h"
 #include "platform/Sheets.h"
 #include "platform/SystemLog.h"
 #include "platform/Threads.h"
@@ -27,6 +28,7 @@ struct Host {
   SystemLog& systemLog;
   Bundle& bundle;
   Application& application;
+  SaveDisk& saves;
 };
 
 }  // namespace glossmill

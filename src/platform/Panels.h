@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/FileUrl.h"
+#include "text/Result.h"
 
 namespace glossmill {
 
@@ -32,6 +33,12 @@ struct AlertRequest {
   std::string defaultButton;
   std::string alternateButton;
   std::string otherButton;
+  /// What it is about, when something could not be written.
+  struct Cause {
+    FileUrl file;
+    Error error;
+  };
+  std::optional<Cause> cause = std::nullopt;
 };
 
 enum class AlertAnswer { Default, Alternate, Other };

@@ -56,7 +56,7 @@ class SaveDisk {
 
   /// Where all the links of a path lead; what does not exist keeps its name.
   virtual Result<FileUrl> resolve(const FileUrl& url) = 0;
-  /// Of the file that the path leads to; nothing when there is none.
+  /// Of the file that the path leads to; nothing when there is none. Any thread.
   virtual Result<std::optional<FileStamp>> stampOf(const FileUrl& file) = 0;
   /// Writes the pieces beside the file and flushes them. An error of the pieces is passed on, and nothing is left.
   virtual Result<std::unique_ptr<PreparedWrite>> prepare(const FileUrl& file, const BytePieces& bytes,
@@ -85,6 +85,8 @@ class SaveDisk {
   /// Nothing while somebody else holds it.
   virtual Result<std::unique_ptr<DirectoryLock>> tryLock(const FileUrl& directory) = 0;
   virtual std::int64_t processId() const = 0;
+  /// Seconds since 1970, UTC.
+  virtual std::int64_t now() const = 0;
 };
 
 }  // namespace glossmill

@@ -51,6 +51,7 @@ void ProjectWindowController::clearProject() {
   m_filteredStringList.clear();
   m_stringController.removeAllObjects();
   m_fileList.clear();
+  m_readFiles.clear();
   m_scanReport = ScanReport();
   // The array itself stays with the choosers that were given it; the project gets an empty one.
   m_languageController.setContent(std::make_shared<LanguageArray>());

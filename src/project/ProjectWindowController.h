@@ -22,11 +22,11 @@
 #include "model/TranslationCounts.h"
 #include "platform/CancelFlag.h"
 #include "platform/Host.h"
+#include "project/ReadFiles.h"
+#include "project/SaveReport.h"
 #include "project/ScanMessages.h"
 
 namespace glossmill {
-
-struct SaveOutcome;
 
 /// Owns the open project for its whole life and offers its operations: the rules are in modules, this class asks the
 /// host, calls one module, adopts the result and tells the window. Main thread, but for the operations marked
@@ -138,8 +138,11 @@ class ProjectWindowController : public ProjectContext,
 
   bool saveLanguage(const std::shared_ptr<Language>& language);
   /// Every language is tried; afterwards the project counts as saved, also when one failed. True when all were written.
+  /// A save that was refused is no save: nothing was written, and the project stays as it is.
   bool saveProject();
   void saveProjectButton() { saveProject(); }
+  /// What became of the last save.
+  const SaveReport& lastSave() const { return m_lastSave; }
   /// Asks what to do about unsaved changes. False when the project stays open.
   bool closeProject();
   void closeProjectButton() { closeProject(); }
@@ -188,7 +191,7 @@ class ProjectWindowController : public ProjectContext,
   std::string localized(std::string_view key) const { return m_host.bundle.localizedString(key); }
   void systemLog(std::string_view message) { m_host.systemLog.write(message); }
   void onMainThread(const std::function<void()>& work) { m_host.threads.performOnMainThreadAndWait(work); }
-  void runOkAlert(const std::string& message);
+  void runOkAlert(const std::string& message, std::optional<AlertRequest::Cause> cause = std::nullopt);
 
   void startScan(const FileUrl& directory, const ProjectOptions& options);
   void beginLongTimeSheet(std::string_view titleKey);
@@ -203,7 +206,10 @@ class ProjectWindowController : public ProjectContext,
   void giveBackStrings();
   void step(const std::function<void()>& select);
   bool save(const LanguageArray& languages);
-  void tellOfSave(const SaveOutcome& outcome);
+  SaveResult writeFiles(const std::vector<FileText>& plan);
+  void rememberSave(const std::vector<FileText>& plan, const SaveResult& result);
+  bool mayGoOn(const SaveRefusal& refusal);
+  void tellOfSave(const Language& language, const FileOutcome& outcome);
 
   void showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name);
   void chooseExportFile(std::shared_ptr<Language> language, ExportScope scope);
@@ -243,6 +249,8 @@ class ProjectWindowController : public ProjectContext,
   FileUrl m_actualParseFileName;
   ScanMemory m_scanMemory;  ///< written by phase one
   ScanReport m_scanReport;
+  ReadFiles m_readFiles;  ///< written by phase two
+  SaveReport m_lastSave;
   bool m_changed = false;
   bool m_opened = false;
 };

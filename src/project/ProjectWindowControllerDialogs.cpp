@@ -107,7 +107,8 @@ bool ProjectWindowController::createLanguageDirectory(const Language& language) 
   const FileUrl& directory = language.localizedStringUrl();
   const Outcome created = m_host.files.createDirectory(directory, false);
   if (created) return true;
-  runOkAlert(formatText(localized("Error creating %@ for language %@"), {directory.text(), language.description()}));
+  runOkAlert(formatText(localized("Error creating %@ for language %@"), {directory.text(), language.description()}),
+             AlertRequest::Cause{directory, created.error()});
   systemLog(formatText("Error %@ creating directory %@", {created.error().sentence, directory.text()}));
   return false;
 }

@@ -32,7 +32,8 @@ void ProjectWindowController::saveExportTextFile(const Language& language, const
                                                  const std::optional<std::string>& text) {
   const Outcome written = text ? m_host.files.writeText(file, *text) : Done{};
   if (!written) {
-    runOkAlert(formatText(localized("Error saving export file for language %@"), {language.description()}));
+    runOkAlert(formatText(localized("Error saving export file for language %@"), {language.description()}),
+               AlertRequest::Cause{file, written.error()});
     systemLog(formatText("Error %@ writing file: %@", {written.error().sentence, file.text()}));
   }
   didEndLongTimeSheetReturnCodeContextInfo();

@@ -1,8 +1,33 @@
-#include "edit/ProjectSaver.h"
+#include <utility>
+
+#include "edit/SavePlan.h"
 #include "project/ProjectWindowController.h"
 #include "text/Format.h"
 
 namespace glossmill {
+
+namespace {
+
+const char* saveQuestion(SaveRefusal::Kind kind) {
+  switch (kind) {
+    case SaveRefusal::Kind::Outside:
+      return "Files outside the project would be written. Save anyway?";
+    case SaveRefusal::Kind::Changed:
+      return "Files were changed by another program. Overwrite them?";
+    case SaveRefusal::Kind::NoCopy:
+      break;
+  }
+  return "What is replaced cannot be kept, so that the save could not be taken back. Save anyway?";
+}
+
+SaveAllowance allowanceWith(SaveAllowance allowance, SaveRefusal::Kind kind) {
+  if (kind == SaveRefusal::Kind::Outside) allowance.outside = true;
+  if (kind == SaveRefusal::Kind::Changed) allowance.changed = true;
+  if (kind == SaveRefusal::Kind::NoCopy) allowance.noCopy = true;
+  return allowance;
+}
+
+}  // namespace
 
 bool ProjectWindowController::saveLanguage(const std::shared_ptr<Language>& language) {
   return save({language});
@@ -10,34 +35,82 @@ bool ProjectWindowController::saveLanguage(const std::shared_ptr<Language>& lang
 
 bool ProjectWindowController::saveProject() {
   const bool allWritten = save(*languagesList());
-  setChanged(false);
+  if (!m_lastSave.refusal) setChanged(false);
   return allWritten;
 }
 
+/// The languages live on while an alert is up: the project may be closed behind it.
 bool ProjectWindowController::save(const LanguageArray& languages) {
-  const std::unique_ptr<LanguageTexts> texts = m_rules->languageTexts(stringList(), languages);
-  return saveLanguages(m_host.files, *texts, languages, [this](const SaveOutcome& outcome) { tellOfSave(outcome); });
+  const LanguageArray kept = languages;
+  const std::unique_ptr<LanguageTexts> texts = m_rules->languageTexts(stringList(), kept);
+  std::vector<FileText> plan = planSave(*texts, kept);
+  for (FileText& text : plan) {
+    const ReadFiles::File* known = m_readFiles.find(text.file);
+    if (known) text.expected = known->stamp;
+    text.entriesBefore = known ? known->entries : std::nullopt;
+  }
+  const SaveResult result = writeFiles(plan);
+  m_lastSave = {result.refusal, {}, result.id};
+  if (result.refusal) return false;
+  rememberSave(plan, result);
+  bool allWritten = true;
+  for (std::size_t at = 0; at < kept.size(); ++at) {
+    allWritten = allWritten && result.files[at].isWritten();
+    tellOfSave(*kept[at], result.files[at]);
+  }
+  return allWritten;
 }
 
-void ProjectWindowController::tellOfSave(const SaveOutcome& outcome) {
-  const std::optional<std::string>& name = outcome.language.description();
-  const std::string file = outcome.language.localizedStringUrl().text();
-  switch (outcome.kind) {
-    case SaveOutcome::Kind::Written:
-      return;
-    case SaveOutcome::Kind::Created:
-      runOkAlert(formatText(localized("Created new Localizable.strings for language %@ at:\n\n%@\n\nYou must add this "
-                                      "file to your Xcode project bundle!"),
-                            {name, file}));
-      return;
-    case SaveOutcome::Kind::Failed:
-      runOkAlert(formatText(localized("Error saving Localizable.strings for language %@"), {name}));
-      systemLog(formatText("Error %@ writing file: %@", {outcome.error.sentence, file}));
-      return;
-    case SaveOutcome::Kind::DirectoryFailed:
-      runOkAlert(formatText(localized("Error creating %@ for language %@"), {file, name}));
-      systemLog(formatText("Error %@ creating directory %@", {outcome.error.sentence, file}));
-      return;
+SaveResult ProjectWindowController::writeFiles(const std::vector<FileText>& plan) {
+  SaveOrder order{m_projectDirectory, m_options.version,   m_options.command,
+                  m_host.saves.now(), m_options.allowance, m_options.pretendsToSave};
+  SaveResult result = SaveTransaction(m_host.files, m_host.saves, order).save(plan);
+  while (result.refusal && m_options.asksToSave && mayGoOn(*result.refusal)) {
+    order.allowance = allowanceWith(order.allowance, result.refusal->kind);
+    result = SaveTransaction(m_host.files, m_host.saves, order).save(plan);
+  }
+  return result;
+}
+
+void ProjectWindowController::rememberSave(const std::vector<FileText>& plan, const SaveResult& result) {
+  for (std::size_t at = 0; at < plan.size(); ++at) {
+    const FileText& text = plan[at];
+    const bool isNew = result.files[at].kind == FileOutcome::Kind::Created;
+    const std::optional<std::uint64_t> before = isNew ? 0 : text.entriesBefore;
+    m_lastSave.languages.push_back({text.language, text.file, result.files[at], before, text.entriesAfter});
+    if (m_options.pretendsToSave || !result.files[at].isWritten()) continue;
+    const Result<std::optional<FileStamp>> stamp = m_host.saves.stampOf(text.file);
+    if (stamp) m_readFiles.set(text.file, {stamp.value(), text.entriesAfter});
+  }
+}
+
+/// Names what stands in the way; leaving everything as it is comes first.
+bool ProjectWindowController::mayGoOn(const SaveRefusal& refusal) {
+  AlertRequest question;
+  question.message = localized(saveQuestion(refusal.kind));
+  for (const SaveRefusal::Place& place : refusal.places) {
+    question.informativeText += place.file.path() + "\n" + place.sentence + "\n";
+  }
+  question.defaultButton = localized("Cancel");
+  question.alternateButton = localized("Save Anyway");
+  return m_host.panels.runAlert(question) == AlertAnswer::Alternate;
+}
+
+void ProjectWindowController::tellOfSave(const Language& language, const FileOutcome& outcome) {
+  const FileUrl& url = language.localizedStringUrl();
+  const std::optional<std::string>& name = language.description();
+  if (outcome.kind == FileOutcome::Kind::Created) {
+    runOkAlert(formatText(localized("Created new Localizable.strings for language %@ at:\n\n%@\n\nYou must add this "
+                                    "file to your Xcode project bundle!"),
+                          {name, url.text()}));
+  } else if (outcome.kind == FileOutcome::Kind::Failed) {
+    runOkAlert(formatText(localized("Error saving Localizable.strings for language %@"), {name}),
+               AlertRequest::Cause{url, outcome.error});
+    systemLog(formatText("Error %@ writing file: %@", {outcome.error.sentence, url.text()}));
+  } else if (outcome.kind == FileOutcome::Kind::DirectoryFailed) {
+    runOkAlert(formatText(localized("Error creating %@ for language %@"), {url.text(), name}),
+               AlertRequest::Cause{url, outcome.error});
+    systemLog(formatText("Error %@ creating directory %@", {outcome.error.sentence, url.text()}));
   }
 }
 
@@ -57,8 +130,9 @@ bool ProjectWindowController::closeProject() {
   return true;
 }
 
-void ProjectWindowController::runOkAlert(const std::string& message) {
+void ProjectWindowController::runOkAlert(const std::string& message, std::optional<AlertRequest::Cause> cause) {
   AlertRequest alert;
+  alert.cause = std::move(cause);
   alert.message = message;
   alert.defaultButton = localized("Ok");
   m_host.panels.runAlert(alert);

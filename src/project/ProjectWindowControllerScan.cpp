@@ -8,6 +8,7 @@ ScanInput ProjectWindowController::scanInput(ScanListener& listener) {
 
 void ProjectWindowController::happened(const ScanEvent& event) {
   if (const auto* source = std::get_if<SourceBegins>(&event)) m_actualParseFileName = source->file;
+  m_readFiles.add(event, m_host.saves);
   m_scanMessages.write(event);
 }
 

@@ -37,6 +37,7 @@ class ScanMessages {
   void writeEvent(const LinesCounted& event);
   void writeEvent(const EntryRejected& event);
   void writeEvent(const EntryWithoutMatch& event);
+  void writeEvent(const StringsFileRead&) {}
   std::string localized(std::string_view key) const { return m_bundle.localizedString(key); }
 
   const Bundle& m_bundle;

@@ -36,11 +36,12 @@ SaveTransaction::SaveTransaction(Files& files, SaveDisk& disk, const SaveOrder& 
 SaveResult SaveTransaction::save(const std::vector<FileText>& texts) {
   m_result = {};
   for (const FileText& text : texts) lookForChange(text);
+  if (!m_order.pretends && !m_result.refusal) removeAbandoned(texts);
   std::vector<Step> steps(texts.size());
   for (std::size_t at = 0; at < texts.size() && !m_result.refusal; ++at) prepare(texts[at], steps[at]);
   if (!m_result.refusal) keepVersion(steps);
   if (m_result.refusal) {
-    removeDirectories();
+    removeDirectories(steps);
     return std::move(m_result);
   }
   for (Step& step : steps) putInPlace(step);
@@ -54,15 +55,23 @@ void SaveTransaction::refuse(SaveRefusal::Kind kind, const FileUrl& file, const 
   if (m_result.refusal->kind == kind) m_result.refusal->places.push_back({file, sentence});
 }
 
+/// Where the project's directory is gone there is nothing to lie in.
 WriteLimits SaveTransaction::limits(const FileText& text) const {
-  return {m_order.allowance.outside ? FileUrl() : m_order.project, text.modeIfNew};
+  const bool anywhere = m_order.allowance.outside || m_files.kindOf(m_order.project) == EntryKind::Missing;
+  return {anywhere ? FileUrl() : m_order.project, text.modeIfNew};
 }
 
 /// A file that somebody else has changed since it was read. One that vanished is written anew.
 void SaveTransaction::lookForChange(const FileText& text) {
-  if (!text.expected || m_order.allowance.changed) return;
   const Result<std::optional<FileStamp>> now = m_disk.stampOf(text.file);
-  if (!now || !now.value() || now.value() == *text.expected) return;
+  if (now && now.value() && isUnexpected(text, now.value())) refuseChanged(text);
+}
+
+bool SaveTransaction::isUnexpected(const FileText& text, const std::optional<FileStamp>& now) const {
+  return text.expected && !m_order.allowance.changed && now != *text.expected;
+}
+
+void SaveTransaction::refuseChanged(const FileText& text) {
   refuse(SaveRefusal::Kind::Changed, text.file,
          *text.expected ? "It was changed since it was read." : "It was not there when the project was read.");
 }
@@ -82,12 +91,12 @@ void SaveTransaction::prepareText(const FileText& text, Step& step) {
   const Result<ContentHash> after = hashOfContent(text.bytes());
   if (!after) return step.fail(FileOutcome::Kind::Failed, after.error());
   const bool exists = m_files.kindOf(text.file) != EntryKind::Missing;
-  if (exists) {
-    const Result<ContentHash> before = hashOfContent(contentOf(m_files, text.file));
-    if (before && before.value() == after.value()) return;
-    if (before) step.saved.before = before.value();
-  } else {
-    const Outcome made = makeDirectoryFor(text.file);
+  if (exists) lookAtFormer(text.file, step);
+  if (step.saved.before == after.value()) return;
+  step.saved.after = after.value();
+  if (m_order.pretends) return pretend(text, step);
+  if (!exists) {
+    const Outcome made = makeDirectoryFor(text.file, step.outcome);
     if (!made && made.error().kind == ErrorKind::Outside) {
       return refuse(SaveRefusal::Kind::Outside, text.file, made.error().sentence);
     }
@@ -98,12 +107,20 @@ void SaveTransaction::prepareText(const FileText& text, Step& step) {
     return refuse(SaveRefusal::Kind::Outside, text.file, write.error().sentence);
   }
   if (!write) return step.fail(FileOutcome::Kind::Failed, write.error());
+  const std::optional<FileStamp>& former = write.value()->former();
+  if (former && isUnexpected(text, former)) return refuseChanged(text);
   step.write = std::move(write.value());
-  step.saved.after = after.value();
+  if (former && !step.saved.before) lookAtFormer(text.file, step);
   step.saved.file = step.write->target();
   step.saved.temporary = step.write->temporary();
-  if (const std::optional<FileStamp>& former = step.write->former()) step.saved.mode = former->mode;
-  step.outcome.hasOtherNames = step.write->former() && step.write->former()->links > 1;
+  if (former) step.saved.mode = former->mode;
+  step.outcome.hasOtherNames = former && former->links > 1;
+}
+
+/// What cannot be read cannot be kept either, which is found out when it is to be copied.
+void SaveTransaction::lookAtFormer(const FileUrl& file, Step& step) {
+  const Result<ContentHash> before = hashOfContent(contentOf(m_files, file));
+  if (before) step.saved.before = before.value();
 }
 
 void SaveTransaction::prepareRemoval(const FileText& text, Step& step) {
@@ -112,31 +129,58 @@ void SaveTransaction::prepareRemoval(const FileText& text, Step& step) {
   if (!stamp.value()) return;
   const Result<ContentHash> before = hashOfContent(contentOf(m_files, text.file));
   if (!before) return step.fail(FileOutcome::Kind::Failed, before.error());
-  step.isRemoval = true;
+  step.isRemoval = !m_order.pretends;
+  step.outcome.kind = FileOutcome::Kind::Removed;
   step.saved.file = resolvedOr(m_disk, text.file);
   step.saved.before = before.value();
   step.saved.mode = stamp.value()->mode;
 }
 
-Outcome SaveTransaction::makeDirectoryFor(const FileUrl& file) {
+/// The directories that a file lacks, outermost first.
+std::vector<FileUrl> SaveTransaction::missingDirectories(const FileUrl& file) {
   std::vector<FileUrl> missing;
   for (FileUrl above = file.parent(); m_files.kindOf(above) == EntryKind::Missing; above = above.parent()) {
-    missing.push_back(above);
+    missing.insert(missing.begin(), above);
   }
-  const FileUrl within = m_order.allowance.outside ? FileUrl() : m_order.project;
-  for (auto directory = missing.rbegin(); directory != missing.rend(); ++directory) {
-    const Outcome made = m_disk.createDirectory(*directory, false, {within, {}});
-    if (!made) return made;
-    m_result.directories.push_back(*directory);
+  return missing;
+}
+
+Outcome SaveTransaction::makeDirectoryFor(const FileUrl& file, FileOutcome& outcome) {
+  for (const FileUrl& directory : missingDirectories(file)) {
+    const Outcome made = m_disk.createDirectory(directory, false, limits({}));
+    const bool isThere = made || m_files.kindOf(directory) == EntryKind::Directory;  // somebody else was quicker
+    if (!isThere) return made;
+    if (made) outcome.directories.push_back(directory);
   }
   return Done{};
 }
 
+/// Says what would become of the file. Where it really lies is asked, as that is what would refuse it.
+void SaveTransaction::pretend(const FileText& text, Step& step) {
+  const FileUrl target = resolvedOr(m_disk, text.file);
+  const std::string project = resolvedOr(m_disk, m_order.project).path() + "/";
+  if (!m_order.allowance.outside && !target.path().starts_with(project)) {
+    return refuse(SaveRefusal::Kind::Outside, text.file, "It lies outside the project: it is " + target.path() + ".");
+  }
+  const bool exists = m_files.kindOf(text.file) != EntryKind::Missing;
+  step.outcome.kind = exists ? FileOutcome::Kind::Changed : FileOutcome::Kind::Created;
+  step.outcome.directories = missingDirectories(text.file);
+}
+
+/// What killed processes left lying. Whether one of them left a save that can be finished was asked before.
+void SaveTransaction::removeAbandoned(const std::vector<FileText>& texts) {
+  for (const FileText& text : texts) {
+    for (const FileUrl& temporary : m_disk.abandonedWrites(text.file.parent())) {
+      if (!m_disk.remove(temporary)) return;
+    }
+  }
+}
+
 /// After a refusal everything is as it was; a directory that somebody has filled meanwhile stays.
-void SaveTransaction::removeDirectories() {
-  while (!m_result.directories.empty()) {
-    if (!m_disk.remove(m_result.directories.back())) return;
-    m_result.directories.pop_back();
+void SaveTransaction::removeDirectories(std::vector<Step>& steps) {
+  for (Step& step : steps) {
+    std::vector<FileUrl>& made = step.outcome.directories;
+    while (!m_order.pretends && !made.empty() && m_disk.remove(made.back())) made.pop_back();
   }
 }
 
@@ -153,9 +197,10 @@ Outcome SaveTransaction::copyFormer(const std::vector<Step>& steps) {
 
 /// From here on a kill leaves something to finish or take back; without a copy there is nothing that could.
 void SaveTransaction::keepVersion(const std::vector<Step>& steps) {
-  SaveManifest manifest{
-      resolvedOr(m_disk, m_order.project), m_order.time, m_order.version, m_order.command, {}, m_result.directories};
+  SaveManifest manifest{resolvedOr(m_disk, m_order.project), m_order.time, m_order.version, m_order.command, {}, {}};
   for (const Step& step : steps) {
+    const std::vector<FileUrl>& made = step.outcome.directories;
+    manifest.directories.insert(manifest.directories.end(), made.begin(), made.end());
     if (step.isToBeDone()) manifest.files.push_back(step.saved);
   }
   if (manifest.files.empty()) return;

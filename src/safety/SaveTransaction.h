@@ -7,33 +7,13 @@
 #include <string>
 #include <vector>
 
-#include "platform/BytePieces.h"
+#include "model/FileText.h"
+#include "model/SaveAllowance.h"
 #include "platform/Files.h"
 #include "platform/SaveDisk.h"
 #include "safety/SavedVersions.h"
 
 namespace glossmill {
-
-/// What one file is to hold after a save.
-struct FileText {
-  FileUrl file;
-  std::string language;  ///< code, for the record of the save
-  /// Makes the bytes, each time from the start; nothing: the file is to be taken away.
-  std::function<BytePieces()> bytes;
-  std::optional<std::uint64_t> entriesBefore;  ///< nothing: unknown
-  std::uint64_t entriesAfter = 0;
-  /// What the file has to be still: its stamp when it was read, or that there was none. Not looked at without a value.
-  std::optional<std::optional<FileStamp>> expected;
-  std::optional<std::uint32_t> modeIfNew;
-};
-
-/// What became of one file.
-struct FileOutcome {
-  enum class Kind { Unchanged, Changed, Created, Removed, Failed, DirectoryFailed };
-  Kind kind = Kind::Unchanged;
-  Error error;                 ///< of a failure
-  bool hasOtherNames = false;  ///< the file had hard links, which keep the former text
-};
 
 /// Why nothing was written at all.
 struct SaveRefusal {
@@ -46,13 +26,6 @@ struct SaveRefusal {
   std::vector<Place> places;
 };
 
-/// What a user allows although it would be refused.
-struct SaveAllowance {
-  bool outside = false;
-  bool changed = false;
-  bool noCopy = false;
-};
-
 /// Everything about a save but the texts.
 struct SaveOrder {
   FileUrl project;        ///< the opened directory
@@ -60,13 +33,13 @@ struct SaveOrder {
   std::string command;    ///< by which words it was asked for
   std::int64_t time = 0;  ///< seconds since 1970
   SaveAllowance allowance;
+  bool pretends = false;  ///< tells what would become of the files, and writes nothing
 };
 
 struct SaveResult {
   std::optional<SaveRefusal> refusal;
-  std::vector<FileOutcome> files;    ///< one for each text, in their order; none after a refusal
-  std::vector<FileUrl> directories;  ///< that were made
-  std::optional<std::string> id;     ///< of the saved version, when one is kept
+  std::vector<FileOutcome> files;  ///< one for each text, in their order; none after a refusal
+  std::optional<std::string> id;   ///< of the saved version, when one is kept
 };
 
 /// Writes a set of files as one: all texts are written beside their files first, then what they replace is copied, then
@@ -83,11 +56,17 @@ class SaveTransaction {
   struct Step;
 
   void lookForChange(const FileText& text);
+  bool isUnexpected(const FileText& text, const std::optional<FileStamp>& now) const;
+  void refuseChanged(const FileText& text);
+  void lookAtFormer(const FileUrl& file, Step& step);
   void prepare(const FileText& text, Step& step);
   void prepareText(const FileText& text, Step& step);
   void prepareRemoval(const FileText& text, Step& step);
-  Outcome makeDirectoryFor(const FileUrl& file);
-  void removeDirectories();
+  std::vector<FileUrl> missingDirectories(const FileUrl& file);
+  void pretend(const FileText& text, Step& step);
+  void removeAbandoned(const std::vector<FileText>& texts);
+  Outcome makeDirectoryFor(const FileUrl& file, FileOutcome& outcome);
+  void removeDirectories(std::vector<Step>& steps);
   Outcome copyFormer(const std::vector<Step>& steps);
   void keepVersion(const std::vector<Step>& steps);
   void putInPlace(Step& step);

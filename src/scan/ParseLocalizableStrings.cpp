@@ -72,6 +72,7 @@ ScanEnd StringsFilesPhase::store(const Language& language, const StringsFileCont
     return ScanEnd::Canceled;
   }
   m_columns.add(language.code(), entries);
+  tell(StringsFileRead{language.localizedStringUrl(), entries.size()});
   return ScanEnd::Complete;
 }
 

@@ -33,10 +33,20 @@ void StringsFileTexts::appendHead(const LocalizeString& record) {
 }
 
 void StringsFileTexts::start(LanguageCode language) {
-  m_column = &*std::find_if(m_columns.begin(), m_columns.end(),
-                            [language](const Column& column) { return column.language == language; });
+  m_column = &columnOf(language);
   m_next = 0;
   m_isStart = true;
+}
+
+const StringsFileTexts::Column& StringsFileTexts::columnOf(LanguageCode language) const {
+  return *std::find_if(m_columns.begin(), m_columns.end(),
+                       [language](const Column& column) { return column.language == language; });
+}
+
+std::size_t StringsFileTexts::entryCount(LanguageCode language) const {
+  const std::vector<StoredText>& translations = columnOf(language).translations;
+  return static_cast<std::size_t>(std::count_if(translations.begin(), translations.end(),
+                                                [](const StoredText& text) { return static_cast<bool>(text); }));
 }
 
 std::string_view StringsFileTexts::nextPiece() {

@@ -19,16 +19,18 @@ class StringsFileTexts : public LanguageTexts {
 
   void start(LanguageCode language) override;
   std::string_view nextPiece() override;
+  std::size_t entryCount(LanguageCode language) const override;
 
  private:
-  void appendHead(const LocalizeString& record);
-  void appendRecord(std::size_t place);
-
   /// All translations into one language, in the order of the records.
   struct Column {
     LanguageCode language;
     std::vector<StoredText> translations;
   };
+
+  const Column& columnOf(LanguageCode language) const;
+  void appendHead(const LocalizeString& record);
+  void appendRecord(std::size_t place);
 
   StringArray m_records;                ///< kept alive: a project may be closed behind a question that saving asks
   std::string m_heads;                  ///< what stands before the translation, the same in all languages

@@ -157,4 +157,6 @@ class Output(ProcessTest):
 
 if __name__ == "__main__":
     PROGRAM = sys.argv.pop(1)
-    unittest.main()
+    with tempfile.TemporaryDirectory() as state:
+        os.environ["XDG_STATE_HOME"] = state
+        unittest.main()

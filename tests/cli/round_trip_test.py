@@ -4,6 +4,7 @@
 Usage: round_trip_test.py PROGRAM
 """
 
+import os
 import pathlib
 import shutil
 import subprocess
@@ -79,4 +80,6 @@ class RoundTrip(unittest.TestCase):
 
 if __name__ == "__main__":
     PROGRAM = sys.argv.pop(1)
-    unittest.main()
+    with tempfile.TemporaryDirectory() as state:
+        os.environ["XDG_STATE_HOME"] = state
+        unittest.main()

@@ -102,7 +102,8 @@ def run(cli, case, work):
     shutil.copytree(case.input, tree, symlinks=True)
     arguments = [word.replace("$INPUT", str(tree)) for word in shlex.split(case.text("command"))]
     runner = run_on_terminal if (case.folder / "terminal").exists() else run_on_pipes
-    code, stdout, stderr = runner([cli, *arguments], cwd=work, env=case.environment(), stdin=subprocess.DEVNULL)
+    environment = case.environment() | {"XDG_STATE_HOME": str(work / "state")}
+    code, stdout, stderr = runner([cli, *arguments], cwd=work, env=environment, stdin=subprocess.DEVNULL)
     return Outcome(code, stdout, stderr, tree)
 
 

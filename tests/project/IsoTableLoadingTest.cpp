@@ -29,7 +29,7 @@ class IsoTableLoading : public testing::Test {
   void openWith(const Result<std::string>& table) {
     bundle.emplace(table);
     application.emplace(Host{host.files, host.defaults, host.notifications, host.threads, host.panels, host.sheets,
-                             host.interfaces, host.recentMenu, host.systemLog, *bundle, host.application});
+                             host.interfaces, host.recentMenu, host.systemLog, *bundle, host.application, host.saves});
     application->openProjectWindow();
   }
 

@@ -69,7 +69,7 @@ TEST_F(Saving, TwiceWritesIdenticalBytesAndAnnouncesNewFilesOnce) {
   EXPECT_EQ(m_test.savedFile("de"), german);
   EXPECT_EQ(m_test.savedFile("fr"), french);
   EXPECT_EQ(m_test.host.panels.alerts.size(), 1U);
-  EXPECT_EQ(m_test.host.files.written().size(), 4U);
+  EXPECT_EQ(m_test.host.files.written().size(), 2U);
 }
 
 TEST_F(Saving, WritesWhatTheNextScanReads) {
@@ -173,12 +173,70 @@ TEST_F(Saving, RefusesTextThatUtf8CannotHoldAndLeavesTheFormerFileWhole) {
   EXPECT_EQ(m_test.savedFile("de"), kCommentedGerman);
 }
 
-TEST_F(Saving, WritesThroughALink) {
-  m_test.host.files.addFile("/shared/German.strings", "shared");
-  m_test.host.files.remove(stringsFileOf("de"));
-  m_test.host.files.addLink(stringsFileOf("de"), "/shared/German.strings");
+TEST(SavingThroughALink, WritesInsideTheProject) {
+  TestProject test;
+  test.addString("Open", "Menu");
+  test.addBareLanguage("de");
+  test.host.files.addFile(inProject("shared/German.strings"), "\"Open\" = \"Auf\";");
+  test.host.files.addLink(stringsFileOf("de"), "../shared/German.strings");
+  test.open();
+  EXPECT_TRUE(test.project().saveProject());
+  EXPECT_EQ(test.host.files.bytesOf(inProject("shared/German.strings")), "\n/* Menu */\n\"Open\" = \"Auf\"\n\n");
+}
+
+TEST(SavingThroughALink, IsRefusedOutsideTheProject) {
+  TestProject test;
+  test.addString("Open", "Menu");
+  test.addLanguage("fr", "\"Open\" = \"Ouvrir\";");
+  test.addBareLanguage("de");
+  test.host.files.addFile("/shared/German.strings", "\"Open\" = \"Auf\";");
+  test.host.files.addLink(stringsFileOf("de"), "/shared/German.strings");
+  test.open();
+  test.project().setChanged(true);
+  EXPECT_FALSE(test.project().saveProject());
+  ASSERT_TRUE(test.project().lastSave().refusal);
+  EXPECT_EQ(test.project().lastSave().refusal->kind, SaveRefusal::Kind::Outside);
+  EXPECT_EQ(test.host.files.bytesOf("/shared/German.strings"), "\"Open\" = \"Auf\";");
+  EXPECT_EQ(test.savedFile("fr"), "\"Open\" = \"Ouvrir\";");
+  EXPECT_TRUE(test.project().changed());
+  EXPECT_EQ(test.alertMessages(), Texts());
+}
+
+TEST_F(Saving, IsRefusedWhenSomebodyElseHasWrittenAFileSinceItWasRead) {
+  m_test.host.files.addFile(stringsFileOf("de"), "edited elsewhere");
+  m_test.project().setChanged(true);
+  EXPECT_FALSE(m_test.project().saveProject());
+  EXPECT_EQ(m_test.project().lastSave().refusal->kind, SaveRefusal::Kind::Changed);
+  EXPECT_EQ(m_test.savedFile("de"), "edited elsewhere");
+  EXPECT_FALSE(m_test.host.files.exists(stringsFileOf("fr")));
+  EXPECT_TRUE(m_test.project().changed());
+}
+
+TEST_F(Saving, IsRefusedWhenAFileHasAppearedWhereThereWasNone) {
+  m_test.host.files.addFile(stringsFileOf("fr"), "from elsewhere");
+  EXPECT_FALSE(m_test.project().saveProject());
+  EXPECT_EQ(m_test.savedFile("fr"), "from elsewhere");
+}
+
+TEST_F(Saving, AFileOfItsOwnIsNoChangeByOthers) {
   EXPECT_TRUE(m_test.project().saveProject());
-  EXPECT_EQ(m_test.host.files.bytesOf("/shared/German.strings"), kNewGerman);
+  m_test.setTranslation("Close", "fr", "Fermer");
+  EXPECT_TRUE(m_test.project().saveProject());
+  EXPECT_EQ(m_test.project().lastSave().refusal, std::nullopt);
+}
+
+TEST_F(Saving, TellsHowManyEntriesWereNotWrittenAgain) {
+  EXPECT_TRUE(m_test.project().saveProject());
+  EXPECT_EQ(m_test.project().lastSave().languages.at(0).entriesBefore, 1U);
+  EXPECT_EQ(m_test.project().lastSave().languages.at(0).notWritten(), 0U);
+  TestProject other;
+  other.addString("Open");
+  other.addLanguage("de", "\"Open\" = \"Auf\";\n\"Gone\" = \"Weg\";\nnonsense\n");
+  other.open();
+  EXPECT_TRUE(other.project().saveProject());
+  EXPECT_EQ(other.project().lastSave().languages.at(0).entriesBefore, 3U);
+  EXPECT_EQ(other.project().lastSave().languages.at(0).entriesAfter, 1U);
+  EXPECT_EQ(other.project().lastSave().languages.at(0).notWritten(), 2U);
 }
 
 TEST(SavingAnUnknownLanguage, ShowsThatItHasNoDescription) {

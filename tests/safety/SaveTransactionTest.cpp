@@ -47,7 +47,7 @@ class SaveTransactionTest : public testing::Test {
   }
 
   SaveResult save(const std::vector<FileText>& texts, SaveAllowance allowance = {}) {
-    return SaveTransaction(files, disk, {kProject, "0.1", "save", 1795283100, allowance}).save(texts);
+    return SaveTransaction(files, disk, {kProject, "0.1", "save", 1795283100, allowance, false}).save(texts);
   }
 
   Contents contents() {
@@ -251,7 +251,7 @@ TEST_F(SaveTransactionTest, AKillAtAnyMomentLeavesAllOldOrAllNewOrASaveThatIsSee
       fresh.addDirectory("/x/App/nb.lproj");
       InMemorySaveDisk other(fresh);
       other.killBefore(operation);
-      const SaveOrder order{kProject, "0.1", "save", 1795283100, {}};
+      const SaveOrder order{kProject, "0.1", "save", 1795283100, {}, false};
       EXPECT_THROW(SaveTransaction(fresh, other, order).save(newTexts()), InMemorySaveDisk::Killed);
       other.goOn();
       const auto now = [&fresh] {

@@ -280,6 +280,13 @@ Outcome InMemoryFiles::create(const FileUrl& directory, bool intermediate) {
   return Done{};
 }
 
+Outcome InMemoryFiles::noteWrite(std::string_view path) {
+  const std::lock_guard lock(m_mutex);
+  m_written.emplace_back(path);
+  const std::optional<Error> failure = failureFor(m_writeFailures, path);
+  return failure ? Outcome(*failure) : Done{};
+}
+
 Outcome InMemoryFiles::writeText(const FileUrl& file, std::string_view text) {
   const std::lock_guard lock(m_mutex);
   m_written.push_back(file.path());

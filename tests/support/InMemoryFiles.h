@@ -45,6 +45,8 @@ class InMemoryFiles : public Files {
   void failReadingAfter(std::string_view path, std::size_t bytes, std::string_view sentence);
   void failWriting(std::string_view path, std::string_view sentence);
   void failCreating(std::string_view path, std::string_view sentence);
+  /// For another disk that writes these files: notes the write, and gives the failure that is wanted.
+  Outcome noteWrite(std::string_view path);
 
   // ---- What was asked ----
 

@@ -109,6 +109,8 @@ Result<std::unique_ptr<PreparedWrite>> InMemorySaveDisk::prepare(const FileUrl& 
   if (!inside) return inside.error();
   const Outcome begun = begin("prepare " + file.path());
   if (!begun) return begun.error();
+  const Outcome writable = m_files.noteWrite(file.path());
+  if (!writable) return writable.error();
   const Result<std::string> text = wholeOf(bytes);
   if (!text) return text.error();
   if (m_files.kindOf(target) == EntryKind::Directory) return Error{"It is a directory, not a file."};

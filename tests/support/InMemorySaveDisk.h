@@ -51,6 +51,7 @@ class InMemorySaveDisk : public SaveDisk {
   Result<std::unique_ptr<GrowingFile>> openGrowing(const FileUrl& file) override;
   Result<std::unique_ptr<DirectoryLock>> tryLock(const FileUrl& directory) override;
   std::int64_t processId() const override { return 7; }
+  std::int64_t now() const override { return 1795283100; }
 
  private:
   friend class InMemoryWrite;

@@ -19,8 +19,8 @@ struct RecordingHost {
 
   Host parts() { return partsWith(host.bundle); }
   Host partsWith(Bundle& bundle) {
-    return {files,      defaults,   notifications, threads, panels,     sheets,
-            interfaces, recentMenu, systemLog,     bundle,  application};
+    return {files,      defaults,   notifications, threads, panels,      sheets,
+            interfaces, recentMenu, systemLog,     bundle,  application, saves};
   }
   void runUntilIdle() {
     while (threads.release()) host.runUntilIdle();
@@ -38,6 +38,7 @@ struct RecordingHost {
   LineRecordingSystemLog systemLog{calls, host.systemLog};
   RecordingApplication application{calls, host.application};
   RecordingThreads threads{calls, host.threads};
+  RecordingSaveDisk saves{calls, host.saves};
 };
 
 }  // namespace glossmill

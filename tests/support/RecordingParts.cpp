@@ -74,6 +74,41 @@ Outcome RecordingFiles::writeTextPieces(const FileUrl& file, const TextPieces& n
   return m_inner.writeTextPieces(file, next);
 }
 
+namespace {
+
+class RecordingWrite : public PreparedWrite {
+ public:
+  RecordingWrite(CallRecorder& calls, FileUrl file, std::unique_ptr<PreparedWrite> inner)
+      : m_calls(calls), m_file(std::move(file)), m_inner(std::move(inner)) {}
+  const FileUrl& target() const override { return m_inner->target(); }
+  const FileUrl& temporary() const override { return m_inner->temporary(); }
+  const std::optional<FileStamp>& former() const override { return m_inner->former(); }
+  Outcome putInPlace() override {
+    m_calls.addOnMainThread("files", "replace " + m_file.path());
+    return m_inner->putInPlace();
+  }
+
+ private:
+  CallRecorder& m_calls;
+  FileUrl m_file;
+  std::unique_ptr<PreparedWrite> m_inner;
+};
+
+}  // namespace
+
+Result<std::unique_ptr<PreparedWrite>> RecordingSaveDisk::prepare(const FileUrl& file, const BytePieces& bytes,
+                                                                  const WriteLimits& limits) {
+  m_calls.addOnMainThread("files", "prepare " + file.path());
+  Result<std::unique_ptr<PreparedWrite>> prepared = m_inner.prepare(file, bytes, limits);
+  if (!prepared) return prepared;
+  return std::unique_ptr<PreparedWrite>(std::make_unique<RecordingWrite>(m_calls, file, std::move(prepared.value())));
+}
+
+Outcome RecordingSaveDisk::createDirectory(const FileUrl& directory, bool intermediate, const WriteLimits& limits) {
+  m_calls.addOnMainThread("files", "create " + directory.path() + (intermediate ? " and those above" : ""));
+  return m_inner.createDirectory(directory, intermediate, limits);
+}
+
 void RecordingDefaults::setInteger(std::string_view key, long value) {
   m_calls.addOnMainThread("defaults", std::string(key) + " = " + std::to_string(value));
   m_inner.setInteger(key, value);

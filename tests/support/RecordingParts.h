@@ -27,6 +27,37 @@ class RecordingFiles : public Files {
   Files& m_inner;
 };
 
+/// Writes down only what reaches the user's own files.
+class RecordingSaveDisk : public SaveDisk {
+ public:
+  RecordingSaveDisk(CallRecorder& calls, SaveDisk& inner) : m_calls(calls), m_inner(inner) {}
+  Result<FileUrl> resolve(const FileUrl& url) override { return m_inner.resolve(url); }
+  Result<std::optional<FileStamp>> stampOf(const FileUrl& file) override { return m_inner.stampOf(file); }
+  Result<std::unique_ptr<PreparedWrite>> prepare(const FileUrl& file, const BytePieces& bytes,
+                                                 const WriteLimits& limits) override;
+  Outcome createDirectory(const FileUrl& directory, bool intermediate, const WriteLimits& limits) override;
+  std::vector<FileUrl> abandonedWrites(const FileUrl& directory) override { return m_inner.abandonedWrites(directory); }
+  Outcome rename(const FileUrl& from, const FileUrl& to) override { return m_inner.rename(from, to); }
+  Outcome remove(const FileUrl& url) override { return m_inner.remove(url); }
+  Result<FileUrl> stateDirectory() override { return m_inner.stateDirectory(); }
+  Outcome createPrivateDirectory(const FileUrl& directory) override {
+    return m_inner.createPrivateDirectory(directory);
+  }
+  Outcome writePrivate(const FileUrl& file, const BytePieces& bytes) override {
+    return m_inner.writePrivate(file, bytes);
+  }
+  Result<std::unique_ptr<GrowingFile>> openGrowing(const FileUrl& file) override { return m_inner.openGrowing(file); }
+  Result<std::unique_ptr<DirectoryLock>> tryLock(const FileUrl& directory) override {
+    return m_inner.tryLock(directory);
+  }
+  std::int64_t processId() const override { return m_inner.processId(); }
+  std::int64_t now() const override { return m_inner.now(); }
+
+ private:
+  CallRecorder& m_calls;
+  SaveDisk& m_inner;
+};
+
 class RecordingDefaults : public UserDefaults {
  public:
   RecordingDefaults(CallRecorder& calls, UserDefaults& inner) : m_calls(calls), m_inner(inner) {}

@@ -12,6 +12,7 @@
 #include "host/MemoryDefaults.h"
 #include "platform/Host.h"
 #include "support/InMemoryFiles.h"
+#include "support/InMemorySaveDisk.h"
 #include "support/RecordingSystemLog.h"
 #include "support/ScriptedPanels.h"
 
@@ -23,12 +24,13 @@ struct TestHost {
   explicit TestHost(EmbeddedBundle::StringsTable strings = {}) : bundle(std::move(strings)) {}
 
   Host parts() {
-    return {files,      defaults,   notifications, threads, panels,     sheets,
-            interfaces, recentMenu, systemLog,     bundle,  application};
+    return {files,      defaults,   notifications, threads, panels,      sheets,
+            interfaces, recentMenu, systemLog,     bundle,  application, saves};
   }
   void runUntilIdle() { threads.runUntilIdle(); }
 
   InMemoryFiles files;
+  InMemorySaveDisk saves{files};
   MemoryDefaults defaults;
   LocalNotificationCenter notifications;
   ScriptedPanels panels;
