@@ -97,6 +97,7 @@ ExitCode ProjectSession::open(const std::string& directory) {
 ProjectOptions ProjectSession::projectOptions() const {
   ProjectOptions options;
   if (m_options.writing) options.allowance = m_options.writing->allowance();
+  options.asksToSave = false;
   options.pretendsToSave = m_options.files == ReportingFiles::Mode::Pretend;
   options.command = m_options.command;
   options.version = GLOSSMILL_VERSION;

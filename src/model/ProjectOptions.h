@@ -13,7 +13,7 @@ enum class RuleSet { Classic };
 struct ProjectOptions {
   RuleSet rules = RuleSet::Classic;
   SaveAllowance allowance;      ///< what a save may do without asking
-  bool asksToSave = false;      ///< what is not allowed is asked; otherwise the save is refused
+  bool asksToSave = true;       ///< what is not allowed is asked; otherwise the save is refused
   bool pretendsToSave = false;  ///< a save only tells what it would do
   std::string command;          ///< by which words the project was opened, for the record of its saves
   std::string version;          ///< of the program, for the same

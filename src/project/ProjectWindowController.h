@@ -208,6 +208,7 @@ class ProjectWindowController : public ProjectContext,
   bool save(const LanguageArray& languages);
   SaveResult writeFiles(const std::vector<FileText>& plan);
   void rememberSave(const std::vector<FileText>& plan, const SaveResult& result);
+  std::string saveQuestion(SaveRefusal::Kind kind) const;
   bool mayGoOn(const SaveRefusal& refusal);
   void tellOfSave(const Language& language, const FileOutcome& outcome);
 

@@ -8,18 +8,6 @@ namespace glossmill {
 
 namespace {
 
-const char* saveQuestion(SaveRefusal::Kind kind) {
-  switch (kind) {
-    case SaveRefusal::Kind::Outside:
-      return "Files outside the project would be written. Save anyway?";
-    case SaveRefusal::Kind::Changed:
-      return "Files were changed by another program. Overwrite them?";
-    case SaveRefusal::Kind::NoCopy:
-      break;
-  }
-  return "What is replaced cannot be kept, so that the save could not be taken back. Save anyway?";
-}
-
 SaveAllowance allowanceWith(SaveAllowance allowance, SaveRefusal::Kind kind) {
   if (kind == SaveRefusal::Kind::Outside) allowance.outside = true;
   if (kind == SaveRefusal::Kind::Changed) allowance.changed = true;
@@ -84,10 +72,22 @@ void ProjectWindowController::rememberSave(const std::vector<FileText>& plan, co
   }
 }
 
+std::string ProjectWindowController::saveQuestion(SaveRefusal::Kind kind) const {
+  switch (kind) {
+    case SaveRefusal::Kind::Outside:
+      return localized("Files outside the project would be written. Save anyway?");
+    case SaveRefusal::Kind::Changed:
+      return localized("Files were changed by another program. Overwrite them?");
+    case SaveRefusal::Kind::NoCopy:
+      break;
+  }
+  return localized("What is replaced cannot be kept, so that the save could not be taken back. Save anyway?");
+}
+
 /// Names what stands in the way; leaving everything as it is comes first.
 bool ProjectWindowController::mayGoOn(const SaveRefusal& refusal) {
   AlertRequest question;
-  question.message = localized(saveQuestion(refusal.kind));
+  question.message = saveQuestion(refusal.kind);
   for (const SaveRefusal::Place& place : refusal.places) {
     question.informativeText += place.file.path() + "\n" + place.sentence + "\n";
   }

@@ -193,18 +193,32 @@ TEST(SavingThroughALink, IsRefusedOutsideTheProject) {
   test.host.files.addLink(stringsFileOf("de"), "/shared/German.strings");
   test.open();
   test.project().setChanged(true);
+  test.host.panels.willAnswer(AlertAnswer::Default);
   EXPECT_FALSE(test.project().saveProject());
   ASSERT_TRUE(test.project().lastSave().refusal);
   EXPECT_EQ(test.project().lastSave().refusal->kind, SaveRefusal::Kind::Outside);
   EXPECT_EQ(test.host.files.bytesOf("/shared/German.strings"), "\"Open\" = \"Auf\";");
   EXPECT_EQ(test.savedFile("fr"), "\"Open\" = \"Ouvrir\";");
   EXPECT_TRUE(test.project().changed());
-  EXPECT_EQ(test.alertMessages(), Texts());
+  EXPECT_EQ(test.alertMessages(), Texts{"Files outside the project would be written. Save anyway?"});
+}
+
+TEST(SavingThroughALink, IsDoneOutsideTheProjectWhenTheUserSaysSo) {
+  TestProject test;
+  test.addString("Open", "Menu");
+  test.addBareLanguage("de");
+  test.host.files.addFile("/shared/German.strings", "\"Open\" = \"Auf\";");
+  test.host.files.addLink(stringsFileOf("de"), "/shared/German.strings");
+  test.open();
+  test.host.panels.willAnswer(AlertAnswer::Alternate);
+  EXPECT_TRUE(test.project().saveProject());
+  EXPECT_EQ(test.host.files.bytesOf("/shared/German.strings"), "\n/* Menu */\n\"Open\" = \"Auf\"\n\n");
 }
 
 TEST_F(Saving, IsRefusedWhenSomebodyElseHasWrittenAFileSinceItWasRead) {
   m_test.host.files.addFile(stringsFileOf("de"), "edited elsewhere");
   m_test.project().setChanged(true);
+  m_test.host.panels.willAnswer(AlertAnswer::Default);
   EXPECT_FALSE(m_test.project().saveProject());
   EXPECT_EQ(m_test.project().lastSave().refusal->kind, SaveRefusal::Kind::Changed);
   EXPECT_EQ(m_test.savedFile("de"), "edited elsewhere");
@@ -214,6 +228,7 @@ TEST_F(Saving, IsRefusedWhenSomebodyElseHasWrittenAFileSinceItWasRead) {
 
 TEST_F(Saving, IsRefusedWhenAFileHasAppearedWhereThereWasNone) {
   m_test.host.files.addFile(stringsFileOf("fr"), "from elsewhere");
+  m_test.host.panels.willAnswer(AlertAnswer::Default);
   EXPECT_FALSE(m_test.project().saveProject());
   EXPECT_EQ(m_test.savedFile("fr"), "from elsewhere");
 }

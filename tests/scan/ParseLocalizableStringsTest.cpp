@@ -55,6 +55,7 @@ class ParseLocalizableStrings : public testing::Test, private ScanListener {
         [](const LinesCounted& it) { return "lines " + std::to_string(it.lines); },
         [](const EntryRejected& it) { return std::to_string(it.line) + " rejected " + std::string(it.text); },
         [](const EntryWithoutMatch& it) { return std::to_string(it.line) + " unmatched " + std::string(it.key); },
+        [](const StringsFileRead& it) { return "took " + std::to_string(it.entries); },
         [](const StringsFileUnread& it) { return "unread " + it.error.sentence; },
         [](const StringsFileMissing& it) { return "missing " + it.language.iso639(); },
         [](const auto&) { return std::string("something else"); },
@@ -80,7 +81,7 @@ TEST_F(ParseLocalizableStrings, GivesTheTranslationsToTheRecords) {
 TEST_F(ParseLocalizableStrings, TellsTheNumberOfLinesBeforeAnythingOfALine) {
   addLanguage(kGerman, kGermanFile);
   parse();
-  EXPECT_EQ(heard, (Lines{"reading de.strings", "lines 6", "2 rejected x", "4 unmatched Go"}));
+  EXPECT_EQ(heard, (Lines{"reading de.strings", "lines 6", "2 rejected x", "4 unmatched Go", "took 3"}));
 }
 
 TEST_F(ParseLocalizableStrings, StoresNothingOfAFileWhenItIsCanceledBeforeItsLines) {
@@ -135,7 +136,7 @@ TEST_F(ParseLocalizableStrings, EndsBeforeTheNextLanguageWhenItIsCanceledAtTheLa
   addLanguage(kFrench, "\"Quit\" = \"Fin\";");
   cancelWhen("2 rejected x");
   EXPECT_EQ(parse(), ScanEnd::Canceled);
-  EXPECT_EQ(heard.back(), "2 rejected x");
+  EXPECT_EQ(heard, (Lines{"reading de.strings", "lines 2", "2 rejected x", "took 1"}));
   EXPECT_EQ(translations(kGerman), (Lines{"Auf", "-", "-"}));
 }
 
@@ -146,8 +147,8 @@ TEST_F(ParseLocalizableStrings, GoesOnBehindAFileThatIsMissingOrCannotBeRead) {
   result.languagesList->front()->setIso639("it");
   files.failOpening("/P/de.strings", "Permission denied.");
   EXPECT_EQ(parse(), ScanEnd::Complete);
-  EXPECT_EQ(heard,
-            (Lines{"missing it", "reading de.strings", "unread Permission denied.", "reading fr.strings", "lines 1"}));
+  EXPECT_EQ(heard, (Lines{"missing it", "reading de.strings", "unread Permission denied.", "reading fr.strings",
+                          "lines 1", "took 1"}));
   EXPECT_EQ(translations(kFrench), (Lines{"-", "-", "Fin"}));
 }
 
