@@ -12,7 +12,6 @@ using Clock = std::chrono::steady_clock;
 
 /// Jobs that end sooner show no progress.
 constexpr std::chrono::milliseconds kLongJob{500};
-constexpr std::string_view kRejectedCall = "Ignoring bad formatted String:";
 
 std::string inQuotes(std::string_view text) {
   return std::string("\"").append(text).append("\"");
@@ -202,7 +201,6 @@ void ProjectSession::showLog(std::string_view wholeLog) {
 
 /// On the thread that writes; the log itself lets in one at a time.
 void ProjectSession::takeSystemLogLine(std::string_view line) {
-  if (line.starts_with(kRejectedCall)) ++m_rejectedCalls;
   if (m_options.keepsSystemLog) m_systemLog.emplace_back(line);
   m_console.diagnostic(line);
 }

@@ -48,8 +48,6 @@ class ProjectSession {
   const LogWindowController* log() const { return m_delegate->logWindowController(); }
   /// Empty unless the session was told to keep it.
   const std::vector<std::string>& systemLog() const { return m_systemLog; }
-  /// Calls in the sources that the scan could not read as a key with a comment.
-  std::size_t rejectedCalls() const { return m_rejectedCalls; }
 
   /// Prints what was written, or would have been, one file a line.
   void reportFiles() const;
@@ -69,7 +67,6 @@ class ProjectSession {
   Console& m_console;
   const Options m_options;
   std::vector<std::string> m_systemLog;
-  std::size_t m_rejectedCalls = 0;
   std::size_t m_shownLog = 0;  ///< bytes of the log that are on the console
   std::chrono::steady_clock::time_point m_jobStart;
   HeadlessHost m_host;

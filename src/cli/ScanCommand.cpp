@@ -39,7 +39,7 @@ void printSummary(const ProjectSession& session) {
   std::string text = projectTable(session);
   const LanguageArray& languages = *session.project().languagesList();
   if (!languages.empty()) text += "\n" + languageTable(session, languages);
-  session.console().data(text + rejectedText(session.rejectedCalls()));
+  session.console().data(text + rejectedText(session.project().scanReport().totals().rejectedCalls));
 }
 
 ExitCode scan(const ScanOptions& options, Console& console) {
