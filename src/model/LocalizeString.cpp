@@ -59,7 +59,7 @@ void LocalizeString::setTranslationForSelectedString(std::string_view text, Proj
   LanguagesDict& dict = record->languagesDict();
   const bool present = dict.contains(language->code());
   if (present && !text.empty()) {
-    // One text replaces another: deliberately no notification, so the project does not count as changed.
+    // One text replaces another: deliberately (rule 31) no notification, so the project does not count as changed.
     dict.set(language->code(), text);
     return;
   }

@@ -27,8 +27,8 @@ struct ScanInput {
 struct ScanMemory {
   std::optional<FileUrl> projectPackage;       ///< that the last scan took
   std::optional<std::string> projectFileData;  ///< nothing until a project file was read
-  std::int64_t actualDirectoryDepth = 0;     ///< directories entered so far; deliberately never lowered on the way out
-  std::shared_ptr<Language> actualLanguage;  ///< the language made last
+  std::int64_t actualDirectoryDepth = 0;       ///< directories entered so far; deliberately (rule 6) never lowered
+  std::shared_ptr<Language> actualLanguage;    ///< the language made last
 };
 
 enum class ScanEnd { Complete, Canceled };

@@ -16,7 +16,7 @@ namespace glossmill {
 class StringListBuilder {
  public:
   /// Merges the calls of one file. A repeated key counts as one more use and may bring another comment; the file of a
-  /// repetition is deliberately not recorded.
+  /// repetition is deliberately (rule 20) not recorded.
   void add(const std::vector<SourceString>& strings, const FileUrl& file);
 
   const StringArray& records() const { return m_records; }

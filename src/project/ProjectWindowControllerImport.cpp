@@ -34,7 +34,8 @@ bool ProjectWindowController::applyImport(const ImportTable& table, const Langua
   return true;
 }
 
-/// Closes the sheet by the way of the export, with no text to write, and deliberately leaves the batch of updates open.
+/// Closes the sheet by the way of the export, with no text to write, and deliberately (rule 54) leaves the batch of
+/// updates open.
 void ProjectWindowController::endCanceledImport(const Language& language, const FileUrl& file) {
   m_counts.invalidate();
   m_window.outlets.translationTextView->translationChanged();
