@@ -161,9 +161,16 @@ void DesktopFixture::answerWhatIsUp() {
     }
     qFatal("the alert has no button %s", qPrintable(wanted));
   }
-  if (auto* panel = qobject_cast<QFileDialog*>(modal); panel && m_panelAnswer) {
-    std::exchange(m_panelAnswer, nullptr)(*panel);
-  }
+  if (auto* panel = qobject_cast<QFileDialog*>(modal); panel && m_panelAnswer) answer(*panel);
+}
+
+/// A failing check leaves the answer before it has closed the panel, which would then wait for ever.
+void DesktopFixture::answer(QFileDialog& panel) {
+  const QPointer<QFileDialog> up(&panel);
+  std::exchange(m_panelAnswer, nullptr)(panel);
+  if (!up || !up->isVisible()) return;
+  QTest::qVerify(QTest::currentTestFailed(), "the file panel is closed", "its answer left it up", __FILE__, __LINE__);
+  up->reject();
 }
 
 }  // namespace glossmill

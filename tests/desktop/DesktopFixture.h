@@ -80,7 +80,7 @@ class DesktopFixture : public QObject {
   void answerAlert(const QString& button);
   /// Presses a key in the next alert instead.
   void answerAlertWithKey(Qt::Key key);
-  /// Does something with the next file panel, which is then to be closed.
+  /// Does something with the next file panel, which is then to be closed: the test fails when it is not.
   void answerPanel(std::function<void(QFileDialog&)> answer);
   const QStringList& alerts() const { return m_alerts; }
   bool allAnswersUsed() const { return m_alertAnswers.isEmpty() && m_alertKey == Qt::Key_unknown && !m_panelAnswer; }
@@ -100,6 +100,7 @@ class DesktopFixture : public QObject {
   static QWidget& topLevel(const char* name);
   void makeProgram(const QString& language);
   void answerWhatIsUp();
+  void answer(QFileDialog& panel);
 
   std::unique_ptr<DemoProject> m_demo;
   std::unique_ptr<QTemporaryDir> m_settings;

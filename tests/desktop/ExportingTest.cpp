@@ -42,6 +42,8 @@ class ExportingTest : public DesktopFixture {
     QVERIFY(!isSheetUp());
     QCOMPARE(QFileInfo(savePanel().selectedFiles().value(0)).fileName(), QStringLiteral("Demo_de.txt"));
     QCOMPARE(savePanel().acceptMode(), QFileDialog::AcceptSave);
+    QCOMPARE(savePanel().windowModality(), Qt::WindowModal);
+    QCOMPARE(savePanel().parentWidget(), &window());
     enterFile(savePanel(), file);
     waitForJob();
   }

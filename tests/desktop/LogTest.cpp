@@ -9,6 +9,18 @@
 
 namespace glossmill {
 
+/// Counts how often a window was brought to the front.
+class RaiseCounter : public QObject {
+ public:
+  explicit RaiseCounter(QWidget& window) { window.installEventFilter(this); }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::ZOrderChange) ++raises;
+    return QObject::eventFilter(watched, event);
+  }
+
+  int raises = 0;
+};
+
 class LogTest : public DesktopFixture {
   Q_OBJECT
 
@@ -48,6 +60,16 @@ class LogTest : public DesktopFixture {
     QTest::qWait(100);
     QVERIFY(window().isActiveWindow());
     QVERIFY(editor().hasFocus());
+  }
+
+  void comesToTheFrontWithAMessage() {
+    openDemo();
+    program().delegate().openLogWindow();
+    const RaiseCounter counter(logWindow());
+    QVERIFY(waitBriefly([&] {
+      log("one");
+      return counter.raises > 0;
+    }));
   }
 
   void showsWhatABackgroundThreadLogsBeforeItGoesOn() {

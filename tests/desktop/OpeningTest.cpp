@@ -82,6 +82,14 @@ class OpeningTest : public DesktopFixture {
     QVERIFY(window().isVisible());
   }
 
+  void cancelsAPanelThatItsAnswerLeavesUp() {
+    answerPanel([](QFileDialog&) {});
+    QEXPECT_FAIL("", "on purpose", Continue);
+    program().start(std::nullopt);
+    QVERIFY(!project().opened());
+    QVERIFY(!program().panels().isFilePanelUp());
+  }
+
   void theWindowComesBackFromBeingMinimisedAsLargeAsItWas() {
     openDemo();
     window().setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
