@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "text/EightBitEncodings.h"
+#include "text/Result.h"
+#include "text/TextDecoder.h"
+
+namespace glossmill {
+
+using FileEncoding = std::variant<TextEncoding, EightBitEncoding>;
+
+/// The encoding that a project file names by this number (30 is Mac Roman); nothing for the numbers that are not read.
+/// UTF-16 without an order is big endian.
+std::optional<FileEncoding> encodingOfNumber(std::uint32_t number);
+
+/// The encoding of an Internet name such as "iso-8859-1", in any case.
+std::optional<FileEncoding> encodingOfName(std::string_view name);
+
+/// As a person calls it.
+std::string_view displayName(const FileEncoding& encoding);
+
+/// A whole file as UTF-8 text, and how its bytes stand for it. Bytes become text and text bytes again without a loss.
+struct FileText {
+  std::string text;  ///< without the byte-order mark; a second one stays part of it
+  FileEncoding encoding = TextEncoding::Utf8;
+  bool hasMark = false;
+};
+
+/// By the byte-order mark, else UTF-16 by its zero bytes, else UTF-8, else `otherwise`.
+Result<FileText> textOfFile(std::string bytes, std::optional<FileEncoding> otherwise);
+
+/// The bytes of text in `encoding`, whatever marks and zero bytes say.
+Result<std::string> decodeAs(std::string_view bytes, const FileEncoding& encoding);
+
+/// An error names the first character that the encoding lacks.
+Result<std::string> bytesOfFile(const FileText& file);
+
+}  // namespace glossmill
