@@ -56,7 +56,7 @@ class PropertyList::Value {
   Kind kind() const { return m_list ? m_list->m_nodes[m_node].kind : Kind::None; }
   explicit operator bool() const { return kind() != Kind::None; }
 
-  /// A text or, of data, the hexadecimal digits as they are spelled.
+  /// A text or, of data, the digits as they are spelled: hexadecimal, in XML base 64.
   std::string_view text() const { return m_list ? m_list->textOf(m_list->m_nodes[m_node]) : std::string_view(); }
   /// The last value of this key. Looks at every key.
   Value operator[](std::string_view key) const;
