@@ -34,6 +34,14 @@ void writeMedium(TreeWriter& tree, std::size_t /*size*/) {
   writeProject(tree, mediumShape());
 }
 
+void writeLargeWithStrays(TreeWriter& tree, std::size_t /*size*/) {
+  writeProject(tree, withStrays(largeShape()));
+}
+
+void writeMediumWithStrays(TreeWriter& tree, std::size_t /*size*/) {
+  writeProject(tree, withStrays(mediumShape()));
+}
+
 void writeTiny(TreeWriter& tree, std::size_t /*size*/) {
   writeProject(tree, tinyShape());
 }
@@ -44,9 +52,11 @@ constexpr std::size_t kMaximalBytes = 1'000'000'000;
 // Beyond it the class names of the sources would repeat.
 constexpr std::size_t kMaximalManyKeys = 100 * kMaximalClasses;
 
-constexpr std::array<Kind, 14> kKinds = {{
+constexpr std::array<Kind, 16> kKinds = {{
     {"large", 0, 0, writeLarge},
     {"medium", 0, 0, writeMedium},
+    {"large-strays", 0, 0, writeLargeWithStrays},
+    {"medium-strays", 0, 0, writeMediumWithStrays},
     {"tiny", 0, 0, writeTiny},
     {"unbalanced", kCalls, kMaximalCalls, writeUnbalanced},
     {"bare", kCalls, kMaximalCalls, writeBare},

@@ -1,8 +1,8 @@
 #include "tree/ProjectTree.h"
 
 #include <algorithm>
-#include <numeric>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tree/LanguageWords.h"
@@ -55,13 +55,16 @@ void writeSources(TreeWriter& tree, const ProjectShape& shape) {
 }
 
 // Strings files are usually kept sorted by key, the same way in every language.
-std::vector<std::size_t> sortedKeyIndexes(std::size_t keys) {
-  std::vector<std::string> texts;
-  for (std::size_t key = 0; key < keys; ++key) texts.push_back(keyText(key));
-  std::vector<std::size_t> indexes(keys);
-  std::iota(indexes.begin(), indexes.end(), std::size_t{0});
-  std::sort(indexes.begin(), indexes.end(),
-            [&](std::size_t left, std::size_t right) { return texts[left] < texts[right]; });
+std::vector<std::size_t> sortedKeyIndexes(const ProjectShape& shape) {
+  std::vector<std::pair<std::string, std::size_t>> keys;
+  for (std::size_t entry = 0; entry < shape.keys; ++entry) {
+    const bool strays = shape.strayEvery != 0 && entry % shape.strayEvery == shape.strayEvery - 1;
+    const std::size_t key = strays ? entry + shape.keys : entry;
+    keys.emplace_back(keyText(key), key);
+  }
+  std::sort(keys.begin(), keys.end());
+  std::vector<std::size_t> indexes;
+  for (const auto& [text, key] : keys) indexes.push_back(key);
   return indexes;
 }
 
@@ -87,7 +90,7 @@ bool isUtf16(std::size_t language) {
 
 // A file in UTF-16 gets twice the share of one in UTF-8; what one language took too much is taken from those after it.
 void writeLanguages(TreeWriter& tree, const ProjectShape& shape) {
-  const std::vector<std::size_t> sorted = sortedKeyIndexes(shape.keys);
+  const std::vector<std::size_t> sorted = sortedKeyIndexes(shape);
   std::size_t shares = 0;
   for (std::size_t language = 0; language < shape.languages; ++language) shares += isUtf16(language) ? 2 : 1;
   std::size_t bytesLeft = shape.stringsBytes;
@@ -123,6 +126,11 @@ ProjectShape mediumShape() {
 
 ProjectShape tinyShape() {
   return {8, 40'000, 40, 20, 4, 12'000, 5'000, 60};
+}
+
+ProjectShape withStrays(ProjectShape shape) {
+  shape.strayEvery = 10;
+  return shape;
 }
 
 ProjectShape manyKeysShape(std::size_t keys) {
