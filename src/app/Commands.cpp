@@ -106,6 +106,11 @@ bool isEnabled(const AppDelegate& application, const ToolBarItem& item) {
   return project && project->validateToolbarItem(item.tag);
 }
 
+/// The menu knows which commands need a project, and disables them.
+std::string_view obstacle(const AppDelegate& application, const ToolBarItem& item) {
+  return isEnabled(application, command(item.command)) ? std::string_view() : kOpenAProjectFirst;
+}
+
 void perform(AppDelegate& application, const Command& command) {
   if (command.action) command.action(application);
 }

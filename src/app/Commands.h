@@ -59,6 +59,9 @@ struct ToolBarItem {
   int tag = 0;             ///< what validateToolbarItem() decides by; has nothing to do with the menu's tag
 };
 
+/// Says the tool bar while no project is open; key of the program's texts.
+inline constexpr std::string_view kOpenAProjectFirst = "Open a project first";
+
 /// Every command, menu by menu and in the order of the menus.
 std::span<const Command> commands();
 const Command& command(CommandId id);
@@ -70,6 +73,9 @@ std::span<const ToolBarItem> toolBarItems();
 /// Whether the command's menu item is enabled.
 bool isEnabled(const AppDelegate& application, const Command& command);
 bool isEnabled(const AppDelegate& application, const ToolBarItem& item);
+/// What an enabled item says instead of carrying its command out, a key of the program's texts; empty when the command
+/// can be carried out. While no project is open the commands that work on one would get hold of its lists for good.
+std::string_view obstacle(const AppDelegate& application, const ToolBarItem& item);
 /// Carries the command out, whether it is enabled or not; nothing happens when it has no action.
 void perform(AppDelegate& application, const Command& command);
 

@@ -191,6 +191,21 @@ TEST_F(CommandsOfAProject, DisableOnlySavingInTheToolBar) {
   for (const ToolBarItem& item : toolBarItems()) EXPECT_TRUE(isEnabled(m_test.application, item)) << item.title;
 }
 
+TEST_F(CommandsOfAProject, MeetAnObstacleInTheToolBarWhileNoneIsOpen) {
+  const auto needsProject = [](CommandId id) { return id != CommandId::Open && id != CommandId::Save; };
+  const auto obstacleOf = [this](const ToolBarItem& item) { return obstacle(m_test.application, item); };
+  for (const ToolBarItem& item : toolBarItems()) {
+    if (!isEnabled(m_test.application, item)) continue;
+    EXPECT_EQ(obstacleOf(item), needsProject(item.command) ? kOpenAProjectFirst : "") << item.title;
+  }
+  openByCommand();
+  m_test.type("Hinzufügen");
+  for (const ToolBarItem& item : toolBarItems()) EXPECT_EQ(obstacleOf(item), "") << item.title;
+  m_test.host.panels.willAnswer(AlertAnswer::Alternate);
+  run(CommandId::Close);
+  EXPECT_EQ(obstacleOf(toolBarItems().back()), kOpenAProjectFirst);
+}
+
 TEST_F(CommandsOfAProject, LeaveWhatTheFocusCarriesOutAlone) {
   openByCommand();
   for (const CommandId id : {CommandId::Undo, CommandId::Paste, CommandId::Find, CommandId::About}) {

@@ -2,6 +2,8 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QSettings>
+#include <QToolBar>
+#include <QToolTip>
 
 #include "desktop/DesktopFixture.h"
 #include "desktop/TestClasses.h"
@@ -108,6 +110,42 @@ class OpeningTest : public DesktopFixture {
     });
     program().start(std::nullopt);
     QCOMPARE(shown, demo().directory());
+  }
+
+  void saysThatAProjectIsToBeOpenedFirst() {
+    answerPanel([](QFileDialog& panel) { panel.reject(); });
+    program().start(std::nullopt);
+    waitForProjectWindow();
+    QToolBar& bar = widget<QToolBar>("toolBar");
+    for (const int place : {2, 3, 4, 5}) {
+      QToolTip::hideText();
+      QTRY_VERIFY(!QToolTip::isVisible());
+      QAction* action = bar.actions().at(place);
+      click(*bar.widgetForAction(action));
+      QVERIFY2(!isSheetUp(), qPrintable(action->text()));
+      QVERIFY(QToolTip::isVisible());
+      QCOMPARE(QToolTip::text(), QStringLiteral("Open a project first"));
+      QVERIFY(action->toolTip().endsWith(QStringLiteral("\nOpen a project first")));
+    }
+    openDemo();
+    for (const int place : {2, 3, 4, 5}) {
+      click(*bar.widgetForAction(bar.actions().at(place)));
+      QVERIFY(isSheetUp());
+      press(Qt::Key_Escape);
+      QVERIFY(!bar.actions().at(place)->toolTip().contains(QLatin1Char('\n')));
+    }
+  }
+
+  void offersTheLanguagesOfAProjectThatWasOpenedAfterATry() {
+    answerPanel([](QFileDialog& panel) { panel.reject(); });
+    program().start(std::nullopt);
+    waitForProjectWindow();
+    widget<QToolBar>("toolBar").actions().at(3)->trigger();
+    openDemo();
+    press(Qt::Key_E, Qt::ControlModifier);
+    QCOMPARE(firstColumn(inSheet<QTableView>("tableView")), firstColumn(languages()));
+    QCOMPARE(languages().model()->rowCount(), 3);
+    press(Qt::Key_Escape);
   }
 
   void remembersTheProjectInTheRecentMenu() {

@@ -64,7 +64,7 @@ QStringList keysOfInterfaceFiles() {
 }
 
 QStringList keysOfCommands() {
-  QStringList keys;
+  QStringList keys{toQt(kOpenAProjectFirst)};
   for (const Command& command : commands()) keys.append(toQt(command.title));
   for (const ToolBarItem& item : toolBarItems()) keys.append(toQt(item.title));
   for (const MenuId menu : {MenuId::File, MenuId::Recent, MenuId::Edit, MenuId::Go, MenuId::Windows, MenuId::Help}) {

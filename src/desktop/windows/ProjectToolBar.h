@@ -10,7 +10,8 @@
 namespace glossmill {
 
 /// The project window's tool bar, from the program's table. Its items do what the commands of the menu do, but have
-/// rules of their own for being enabled. The bar outlives it.
+/// rules of their own for being enabled: one whose command has nothing to work on says so in a tip. The bar outlives
+/// it.
 class ProjectToolBar {
  public:
   ProjectToolBar(QToolBar& bar, CommandActions& actions, AppDelegate& delegate, const Bundle& bundle);
@@ -19,6 +20,9 @@ class ProjectToolBar {
 
  private:
   void add(const ToolBarItem& item);
+  void use(const ToolBarItem& item, QAction& action);
+  QString tipOf(const ToolBarItem& item) const;
+  QString obstacleOf(const ToolBarItem& item) const;
 
   QToolBar& m_bar;
   CommandActions& m_actions;
