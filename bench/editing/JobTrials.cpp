@@ -2,7 +2,7 @@
 
 #include "edit/BaseLanguage.h"
 #include "exchange/ExportText.h"
-#include "exchange/ImportText.h"
+#include "exchange/ImportPlan.h"
 #include "platform/ReadText.h"
 #include "timing/Findings.h"
 
@@ -74,20 +74,23 @@ void JobTrials::exportAll() {
 std::size_t JobTrials::importAll() {
   const Result<std::string> text = readText(m_files, m_exported);
   if (!text) giveUp("cannot read " + m_exported.path());
-  const ImportTable table = importTable(text.value());
+  const ImportPlan plan(importTable(text.value()), m_added->code());
   for (const auto& record : m_project.stringList()) {
-    const auto found = table.find(record->name());
-    if (found != table.end()) record->languagesDict().set(m_added->code(), found->second);
+    if (const auto edit = plan.editFor(record)) m_project.applyEdit(EditKind::Import, *edit);
   }
   return entries();
 }
 
 void JobTrials::fillAll() {
-  for (const auto& record : m_project.stringList()) fillFromKey(*record, m_added->code());
+  for (const auto& record : m_project.stringList()) {
+    if (const auto edit = fillFromKey(record, m_added->code())) m_project.applyEdit(EditKind::Fill, *edit);
+  }
 }
 
 void JobTrials::removeEntries() {
-  for (const auto& record : m_project.stringList()) record->languagesDict().remove(m_added->code());
+  for (const auto& record : m_project.stringList()) {
+    m_project.applyEdit(EditKind::Import, editOf(record, m_added->code(), std::nullopt));
+  }
 }
 
 std::size_t JobTrials::entries() const {

@@ -39,13 +39,13 @@ constexpr Command kCommands[] = {
     {BaseLanguage, File, "Create &Base Language...", {"Ctrl+B"}, 7, false, onProject<&Project::createBaseLanguage>},
     {Quit, File, "&Quit", {"Ctrl+Q"}, 0, kStartsGroup, onApplication<&App::quit>},
 
-    {Undo, Edit, "&Undo", {"Ctrl+Z"}},
-    {Redo, Edit, "&Redo", {"Ctrl+Shift+Z"}},
-    {Cut, Edit, "Cu&t", {"Ctrl+X"}, 0, kStartsGroup},
-    {Copy, Edit, "&Copy", {"Ctrl+C"}},
-    {Paste, Edit, "&Paste", {"Ctrl+V"}},
-    {SelectAll, Edit, "Select &All", {"Ctrl+A"}},
-    {Find, Edit, "&Find", {"Ctrl+F"}, 0, kStartsGroup},
+    {Undo, MenuId::Edit, "&Undo", {"Ctrl+Z"}},
+    {Redo, MenuId::Edit, "&Redo", {"Ctrl+Shift+Z"}},
+    {Cut, MenuId::Edit, "Cu&t", {"Ctrl+X"}, 0, kStartsGroup},
+    {Copy, MenuId::Edit, "&Copy", {"Ctrl+C"}},
+    {Paste, MenuId::Edit, "&Paste", {"Ctrl+V"}},
+    {SelectAll, MenuId::Edit, "Select &All", {"Ctrl+A"}},
+    {Find, MenuId::Edit, "&Find", {"Ctrl+F"}, 0, kStartsGroup},
 
     {PreviousString, Go, "&Previous String", {"Alt+Up"}, 11, false, onApplication<&App::prevString>},
     {NextString, Go, "&Next String", {"Alt+Down", "Ctrl+Return"}, 12, false, onApplication<&App::nextString>},
@@ -81,7 +81,7 @@ std::string_view menuTitle(MenuId menu) {
       return "&File";
     case Recent:
       return command(OpenRecent).title;
-    case Edit:
+    case MenuId::Edit:
       return "&Edit";
     case Go:
       return "&Go";

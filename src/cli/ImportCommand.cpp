@@ -5,8 +5,6 @@
 #include "cli/LanguageChoice.h"
 #include "cli/Paths.h"
 #include "cli/TextTable.h"
-#include "exchange/ExchangeFormat.h"
-#include "platform/ReadText.h"
 
 namespace glossmill {
 
@@ -20,41 +18,7 @@ struct ImportOptions {
   WritingOptions writing;
 };
 
-using Translations = std::vector<std::optional<std::string>>;
-
-/// What the strings of the project have in this language, in their order.
-Translations translationsOf(const ProjectSession& session, const Language& language) {
-  Translations translations;
-  for (const std::shared_ptr<LocalizeString>& record : session.project().stringList()) {
-    const std::optional<std::string_view> text = record->languagesDict().find(language.code());
-    translations.push_back(text ? std::optional(std::string(*text)) : std::nullopt);
-  }
-  return translations;
-}
-
-struct ImportCounts {
-  std::size_t added = 0;
-  std::size_t changed = 0;
-  std::size_t unchanged = 0;
-  std::size_t unknown = 0;
-
-  void count(const std::optional<std::string>& before, const std::optional<std::string>& after) {
-    ++(!before ? added : before == after ? unchanged : changed);
-  }
-};
-
-ImportCounts importCounts(const ProjectSession& session, const ImportTable& table, const Translations& before,
-                          const Translations& after) {
-  ImportCounts counts;
-  const StringArray& records = session.project().stringList();
-  for (std::size_t index = 0; index < records.size(); ++index) {
-    if (table.contains(records[index]->name())) counts.count(before[index], after[index]);
-  }
-  counts.unknown = table.size() - counts.added - counts.changed - counts.unchanged;
-  return counts;
-}
-
-void printCounts(const ImportCounts& counts, Console& console) {
+void printCounts(const ImportReport& counts, Console& console) {
   TextTable table({TextTable::Align::Left, TextTable::Align::Right});
   table.addRow({{"new entries"}, {std::to_string(counts.added)}});
   table.addRow({{"changed entries"}, {std::to_string(counts.changed)}});
@@ -63,11 +27,9 @@ void printCounts(const ImportCounts& counts, Console& console) {
   console.data(table.text(console) + "\n");
 }
 
-/// The project passes over a file that it cannot read without a word, so it is read here first.
-Result<ImportTable> readTable(ProjectSession& session, const FileUrl& file) {
-  if (file.empty()) return Error{"The file does not exist."};
-  const Result<std::string> text = readText(session.files(), file);
-  return text ? Result<ImportTable>(exchangeFormats().front().read(text.value())) : text.error();
+ExitCode unreadable(const ImportOptions& options, const Error& error, Console& console) {
+  console.error("cannot read \"" + options.file + "\": " + error.sentence);
+  return ExitCode::Unusable;
 }
 
 ExitCode importLanguage(const ImportOptions& options, Console& console) {
@@ -77,17 +39,13 @@ ExitCode importLanguage(const ImportOptions& options, Console& console) {
   const OpenedLanguage opened = openLanguage(session, options.directory, options.language);
   if (opened.code != ExitCode::Fine) return opened.code;
   const FileUrl file = absoluteUrl(options.file);
-  const Result<ImportTable> table = readTable(session, file);
-  if (!table) {
-    console.error("cannot read \"" + options.file + "\": " + table.error().sentence);
-    return ExitCode::Unusable;
-  }
-  const Translations before = translationsOf(session, *opened.language);
+  if (file.empty()) return unreadable(options, {"The file does not exist."}, console);
   session.project().importLanguageFromFile(opened.language, file);
   const ExitCode finished = session.finishJob();
   if (finished != ExitCode::Fine) return finished;
-  const Translations after = translationsOf(session, *opened.language);
-  printCounts(importCounts(session, table.value(), before, after), console);
+  const ImportReport& report = session.project().importReport();
+  if (report.unread) return unreadable(options, *report.unread, console);
+  printCounts(report, console);
   return session.saveProject();
 }
 

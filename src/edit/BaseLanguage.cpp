@@ -1,11 +1,12 @@
 #include "edit/BaseLanguage.h"
 
+#include "model/LocalizeString.h"
+
 namespace glossmill {
 
-bool fillFromKey(LocalizeString& record, LanguageCode language) {
-  if (record.languagesDict().contains(language)) return false;
-  record.languagesDict().set(language, record.name());
-  return true;
+std::optional<Edit> fillFromKey(const std::shared_ptr<LocalizeString>& record, LanguageCode language) {
+  if (record->languagesDict().contains(language)) return std::nullopt;
+  return editOf(record, language, record->name());
 }
 
 }  // namespace glossmill

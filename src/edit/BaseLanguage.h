@@ -1,11 +1,14 @@
 #pragma once
 
-#include "model/LocalizeString.h"
+#include <memory>
+#include <optional>
+
+#include "model/Edit.h"
 
 namespace glossmill {
 
-/// Gives the record its own key as translation unless it has an entry in the language, be it the empty text. True when
-/// an entry was made.
-bool fillFromKey(LocalizeString& record, LanguageCode language);
+/// The edit that gives the record its own key as translation. Nothing when it has an entry in the language, be it the
+/// empty text.
+std::optional<Edit> fillFromKey(const std::shared_ptr<LocalizeString>& record, LanguageCode language);
 
 }  // namespace glossmill

@@ -1,7 +1,7 @@
 #include "model/LocalizeString.h"
 
+#include "model/Edit.h"
 #include "model/Language.h"
-#include "platform/NotificationCenter.h"
 #include "text/Format.h"
 
 namespace glossmill {
@@ -55,22 +55,9 @@ void LocalizeString::setTranslationForSelectedString(std::string_view text, Proj
   const std::shared_ptr<LocalizeString> record = project->selectedString();
   const std::shared_ptr<Language> language = project->selectedLanguage();
   if (!record || !language) return;
-
-  LanguagesDict& dict = record->languagesDict();
-  const bool present = dict.contains(language->code());
-  if (present && !text.empty()) {
-    // One text replaces another: deliberately (rule 31) no notification, so the project does not count as changed.
-    dict.set(language->code(), text);
-    return;
-  }
-  if (!present && text.empty()) return;
-  if (present) {
-    dict.remove(language->code());
-  } else {
-    dict.set(language->code(), text);
-  }
-  project->translationCountChanged(language->code(), present ? -1 : 1);
-  project->notifications().post(kTranslationChangedNotification, record.get());
+  std::optional<std::string> after;
+  if (!text.empty()) after = std::string(text);
+  project->applyEdit(EditKind::Typing, editOf(record, language->code(), std::move(after)));
 }
 
 }  // namespace glossmill

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "model/LanguagesDict.h"
@@ -34,9 +35,11 @@ class LocalizeString {
   std::vector<FileUrl>& filesArray() { return m_filesArray; }
   const std::vector<FileUrl>& filesArray() const { return m_filesArray; }
   void setFilesArray(std::vector<FileUrl> files) { m_filesArray = std::move(files); }
-  LanguagesDict& languagesDict() { return m_languagesDict; }
+  /// In an open project translations change through the EditDoor only.
   const LanguagesDict& languagesDict() const { return m_languagesDict; }
+  /// For building records.
   void setLanguagesDict(LanguagesDict dict) { m_languagesDict = std::move(dict); }
+  LanguagesDict takeLanguagesDict() { return std::exchange(m_languagesDict, LanguagesDict()); }
 
   /// The names of the files, joined by ", ", duplicates included.
   std::string sourceList() const;
@@ -51,11 +54,12 @@ class LocalizeString {
   /// The translation of the project's selected record in its selected language: the selection counts, not this record.
   /// "" when there is none, or no selection, or no project.
   std::string translationForSelectedString(const ProjectContext* project) const;
-  /// Stores, or with the empty text removes, that translation. Posts kTranslationChangedNotification only when an entry
-  /// was added or removed, never when one text replaces another.
+  /// Stores, or with the empty text removes, that translation: an edit that the project applies.
   void setTranslationForSelectedString(std::string_view text, ProjectContext* project);
 
  private:
+  friend class EditDoor;
+
   std::string m_name;
   std::string m_language;
   std::int64_t m_useCount = 1;

@@ -4,16 +4,15 @@
 #include <memory>
 #include <string>
 
-#include "model/LanguageCode.h"
+#include "model/Edit.h"
 #include "model/Status.h"
 
 namespace glossmill {
 
 class Language;
 class LocalizeString;
-class NotificationCenter;
 
-/// Posted when a translation was added or removed; its object is the key record.
+/// Posted when typing has added or removed a translation; its object is the key record.
 inline constexpr const char* kTranslationChangedNotification = "GlossmillTranslationChanged";
 
 /// What a record asks of the open project. Main thread.
@@ -26,9 +25,8 @@ class ProjectContext {
   virtual std::shared_ptr<Language> selectedLanguage() const = 0;
   virtual Status languageStatus(const Language& language) const = 0;
   virtual std::string languageStatusString(const Language& language) const = 0;
-  virtual NotificationCenter& notifications() const = 0;
-  /// The selected record has got (+1) or lost (-1) its entry for this language; called before the notification.
-  virtual void translationCountChanged(LanguageCode code, int difference) = 0;
+  /// Applies the edit and lets everything know that depends on it.
+  virtual void applyEdit(EditKind kind, const Edit& edit) = 0;
 };
 
 }  // namespace glossmill

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "model/Edit.h"
 #include "model/IsoTable.h"
 #include "model/Language.h"
 #include "model/LanguageTexts.h"
@@ -45,6 +46,8 @@ class ProjectRules {
   /// How strings files are written: their texts for these languages. The records are kept alive by it.
   virtual std::unique_ptr<LanguageTexts> languageTexts(const StringArray& records,
                                                        const LanguageArray& languages) const = 0;
+  /// Whether an edit that was applied leaves the project with something to save.
+  virtual bool marksChanged(EditKind kind, const Edit& edit) const = 0;
 };
 
 }  // namespace glossmill

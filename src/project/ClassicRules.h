@@ -12,6 +12,7 @@ class ClassicRules : public ProjectRules {
   ScanEnd readStringsFiles(const ScanInput& input, ScanResult& result) const override;
   std::unique_ptr<LanguageTexts> languageTexts(const StringArray& records,
                                                const LanguageArray& languages) const override;
+  bool marksChanged(EditKind kind, const Edit& edit) const override;
 };
 
 }  // namespace glossmill

@@ -14,6 +14,7 @@ ProjectWindowController::ProjectWindowController(const Host& host, ApplicationSe
   m_stringController.addObserver([this](ArrayChange change) {
     if (change == ArrayChange::Content) m_counts.invalidate();
   });
+  m_edits.addObserver([this](const Edit& edit, const EditStep& step) { editApplied(edit, step.kind); });
 }
 
 ProjectWindowController::~ProjectWindowController() {

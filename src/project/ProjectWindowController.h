@@ -6,11 +6,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "dialogs/LanguageDialogDelegates.h"
+#include "exchange/ImportReport.h"
 #include "model/ArrayController.h"
+#include "model/EditDoor.h"
 #include "model/IsoTable.h"
 #include "model/Language.h"
 #include "model/LocalizeString.h"
@@ -27,6 +28,8 @@
 #include "project/ScanMessages.h"
 
 namespace glossmill {
+
+class ImportPlan;
 
 /// Owns the open project for its whole life and offers its operations: the rules are in modules, this class asks the
 /// host, calls one module, adopts the result and tells the window. Main thread, but for the operations marked
@@ -117,8 +120,9 @@ class ProjectWindowController : public ProjectContext,
   std::string languageStatusString(const Language& language) const override;
   /// How many records of stringList() have no translation in this language.
   std::size_t missingTranslations(const Language& language) const;
-  NotificationCenter& notifications() const override { return m_host.notifications; }
-  void translationCountChanged(LanguageCode code, int difference) override;
+  void applyEdit(EditKind kind, const Edit& edit) override { m_edits.applyEdit(kind, edit); }
+  /// For whoever wants to hear of every edit.
+  EditDoor& edits() { return m_edits; }
   /// The selection of the language table has changed: the editor shows the translation of the new language.
   void languageSelectionDidChange();
   bool canSelectPrevString() const { return m_stringController.canSelectPrevious(); }
@@ -168,6 +172,8 @@ class ProjectWindowController : public ProjectContext,
   /// Background.
   void bgImportLanguage(const Language& language, const FileUrl& file);
   void endImport();
+  /// What the last import did.
+  const ImportReport& importReport() const { return m_importReport; }
 
   // ---- Dialogs: ProjectWindowControllerDialogs.cpp ----
 
@@ -204,6 +210,7 @@ class ProjectWindowController : public ProjectContext,
 
   void holdBackCompleteStrings();
   void giveBackStrings();
+  void editApplied(const Edit& edit, EditKind kind);
   void step(const std::function<void()>& select);
   bool save(const LanguageArray& languages);
   SaveResult writeFiles(const std::vector<FileText>& plan);
@@ -218,7 +225,7 @@ class ProjectWindowController : public ProjectContext,
   std::shared_ptr<Language> addChosenLanguage(const Language& chosen);
   FileUrl newLanguageParent();
   bool createLanguageDirectory(const Language& language);
-  bool applyImport(const std::unordered_map<std::string, std::string>& table, const Language& language);
+  bool applyImport(const ImportPlan& plan, ImportReport& report);
   void endCanceledImport(const Language& language, const FileUrl& file);
 
   Host m_host;
@@ -242,6 +249,7 @@ class ProjectWindowController : public ProjectContext,
   std::vector<FileUrl> m_fileList;
   StringArray m_filteredStringList;  ///< held back from the string table by the filter
   mutable TranslationCounts m_counts;
+  EditDoor m_edits;
 
   FileUrl m_projectDirectory;
   ProjectOptions m_options;
@@ -252,6 +260,7 @@ class ProjectWindowController : public ProjectContext,
   ScanReport m_scanReport;
   ReadFiles m_readFiles;  ///< written by phase two
   SaveReport m_lastSave;
+  ImportReport m_importReport;
   bool m_changed = false;
   bool m_opened = false;
 };

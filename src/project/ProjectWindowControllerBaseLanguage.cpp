@@ -8,6 +8,7 @@ void ProjectWindowController::languageFromBaseLanguage(std::shared_ptr<Language>
   beginLongTimeSheet("Creating base language...");
   makeIndicatorCounting();
   m_window.outlets.stringTableView->beginUpdates();
+  m_edits.beginEdits();
   m_host.threads.performInBackground([this, language] { bgLanguageFromBaseLanguage(*language); });
 }
 
@@ -19,14 +20,14 @@ void ProjectWindowController::bgLanguageFromBaseLanguage(const Language& languag
     ++progress;
     onMainThread([&] {
       updateLongTerm(progress);
-      if (fillFromKey(*record, language.code()) && !m_changed) setChanged(true);
+      if (const std::optional<Edit> edit = fillFromKey(record, language.code())) applyEdit(EditKind::Fill, *edit);
     });
   }
   onMainThread([this] { endLanguageFromBase(); });
 }
 
 void ProjectWindowController::endLanguageFromBase() {
-  m_counts.invalidate();
+  m_edits.endEdits();
   m_window.outlets.stringTableView->reloadData();
   m_window.outlets.languageTableView->reloadData();
   m_window.outlets.stringTableView->endUpdates();

@@ -62,8 +62,15 @@ std::string ProjectWindowController::languageStatusString(const Language& langua
   return missing == 0 ? m_statusTexts.completeString : m_statusTexts.missingString(static_cast<std::int64_t>(missing));
 }
 
-void ProjectWindowController::translationCountChanged(LanguageCode code, int difference) {
-  m_counts.adjust(code, difference);
+/// Typing marks the project by way of the notification, every time; whatever else does marks it once.
+void ProjectWindowController::editApplied(const Edit& edit, EditKind kind) {
+  m_counts.adjust(edit.language, edit.entryDifference());
+  if (!m_rules->marksChanged(kind, edit)) return;
+  if (kind == EditKind::Typing) {
+    m_host.notifications.post(kTranslationChangedNotification, edit.record.get());
+  } else if (!m_changed) {
+    setChanged(true);
+  }
 }
 
 /// Nothing is stored: an entry that is the empty text reads like no entry, and being shown must not take it away.

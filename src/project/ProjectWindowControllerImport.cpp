@@ -1,4 +1,5 @@
 #include "exchange/ExchangeFormat.h"
+#include "exchange/ImportPlan.h"
 #include "platform/ReadText.h"
 #include "project/ProjectWindowController.h"
 
@@ -9,41 +10,51 @@ void ProjectWindowController::importLanguageFromFile(std::shared_ptr<Language> l
   beginLongTimeSheet("Importing strings...");
   makeIndicatorCounting();
   m_window.outlets.stringTableView->beginUpdates();
+  m_edits.beginEdits();
   m_host.threads.performInBackground([this, language, file] { bgImportLanguage(*language, file); });
 }
 
 void ProjectWindowController::bgImportLanguage(const Language& language, const FileUrl& file) {
   const Result<std::string> text = readText(m_host.files, file);
-  const bool finished = !text || applyImport(exchangeFormats().front().read(text.value()), language);
-  onMainThread([&] { finished ? endImport() : endCanceledImport(language, file); });
+  ImportReport report;
+  if (!text) report.unread = text.error();
+  const bool finished =
+      !text || applyImport(ImportPlan(exchangeFormats().front().read(text.value()), language.code()), report);
+  onMainThread([&] {
+    m_importReport = report;
+    finished ? endImport() : endCanceledImport(language, file);
+  });
 }
 
 /// False when it was cancelled; what was applied until then stays. Records are changed on the main thread, so that
 /// whatever is drawn meanwhile finds them whole.
-bool ProjectWindowController::applyImport(const ImportTable& table, const Language& language) {
+bool ProjectWindowController::applyImport(const ImportPlan& plan, ImportReport& report) {
   double counter = 0;
   for (const std::shared_ptr<LocalizeString>& record : stringList()) {
     if (m_longTimeCanceled.isSet()) return false;
     ++counter;
-    const auto found = table.find(record->name());
     onMainThread([&] {
       updateLongTerm(counter);
-      if (found != table.end()) record->languagesDict().set(language.code(), found->second);
+      const std::optional<Edit> edit = plan.editFor(record);
+      if (!edit) return;
+      report.count(*edit);
+      applyEdit(EditKind::Import, *edit);
     });
   }
+  report.unknown = plan.size() - report.known();
   return true;
 }
 
 /// Closes the sheet by the way of the export, with no text to write, and deliberately (rule 54) leaves the batch of
 /// updates open.
 void ProjectWindowController::endCanceledImport(const Language& language, const FileUrl& file) {
-  m_counts.invalidate();
+  m_edits.endEdits();
   m_window.outlets.translationTextView->translationChanged();
   saveExportTextFile(language, file, std::nullopt);
 }
 
 void ProjectWindowController::endImport() {
-  m_counts.invalidate();
+  m_edits.endEdits();
   m_window.outlets.languageTableView->reloadData();
   m_window.outlets.stringTableView->reloadData();
   m_window.outlets.stringTableView->endUpdates();

@@ -1,6 +1,7 @@
 #include "scan/TranslationColumns.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace glossmill {
 
@@ -16,11 +17,12 @@ void TranslationColumns::moveIntoRecords() {
     return a.language.number() < b.language.number();
   });
   for (std::size_t number = 0; number < m_records.size(); ++number) {
-    LanguagesDict& translations = m_records[number]->languagesDict();
+    LanguagesDict translations = m_records[number]->takeLanguagesDict();
     translations.reserve(highest->language);
     for (const Column& column : m_columns) {
       if (column.values[number]) translations.setStored(column.language, column.values[number]);
     }
+    m_records[number]->setLanguagesDict(std::move(translations));
   }
 }
 

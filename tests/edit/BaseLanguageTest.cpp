@@ -2,42 +2,44 @@
 
 #include "edit/BaseLanguage.h"
 #include "support/LanguageCodes.h"
+#include "support/StoredTranslation.h"
 
 namespace glossmill {
 namespace {
 
-LocalizeString openRecord() {
-  LocalizeString record;
-  record.setName("Open");
+std::shared_ptr<LocalizeString> openRecord() {
+  auto record = std::make_shared<LocalizeString>();
+  record->setName("Open");
   return record;
 }
 
 TEST(BaseLanguage, GivesARecordWithoutAnEntryItsKey) {
-  LocalizeString record = openRecord();
-  EXPECT_TRUE(fillFromKey(record, kFrench));
-  EXPECT_EQ(record.languagesDict().find(kFrench), "Open");
-  EXPECT_EQ(record.languagesDict().count(), 1U);
+  const auto record = openRecord();
+  store(*record, kGerman, "Öffnen");
+  const std::optional<Edit> edit = fillFromKey(record, kFrench);
+  ASSERT_TRUE(edit);
+  EXPECT_EQ(edit->record, record);
+  EXPECT_EQ(edit->language, kFrench);
+  EXPECT_EQ(edit->before, std::nullopt);
+  EXPECT_EQ(edit->after, "Open");
 }
 
 TEST(BaseLanguage, NeverOverwritesATranslation) {
-  LocalizeString record = openRecord();
-  record.languagesDict().set(kFrench, "Ouvrir");
+  const auto record = openRecord();
+  store(*record, kFrench, "Ouvrir");
   EXPECT_FALSE(fillFromKey(record, kFrench));
-  EXPECT_EQ(record.languagesDict().find(kFrench), "Ouvrir");
 }
 
 TEST(BaseLanguage, NeverOverwritesEvenAnEmptyEntry) {
-  LocalizeString record = openRecord();
-  record.languagesDict().set(kFrench, "");
+  const auto record = openRecord();
+  store(*record, kFrench, "");
   EXPECT_FALSE(fillFromKey(record, kFrench));
-  EXPECT_EQ(record.languagesDict().find(kFrench), "");
 }
 
-TEST(BaseLanguage, LeavesTheOtherLanguagesAlone) {
-  LocalizeString record = openRecord();
-  record.languagesDict().set(LanguageCode("de"), "Öffnen");
+TEST(BaseLanguage, ChangesNothingItself) {
+  const auto record = openRecord();
   EXPECT_TRUE(fillFromKey(record, kFrench));
-  EXPECT_EQ(record.languagesDict().find(LanguageCode("de")), "Öffnen");
+  EXPECT_EQ(record->languagesDict().count(), 0U);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "exchange/ExportText.h"
 #include "support/LanguageCodes.h"
+#include "support/StoredTranslation.h"
 
 namespace glossmill {
 namespace {
@@ -15,7 +16,7 @@ LocalizeString record(std::string_view key, std::vector<std::string> comments = 
 
 LocalizeString inFrench(std::string_view key, std::string_view translation, std::vector<std::string> comments = {}) {
   LocalizeString made = record(key, std::move(comments));
-  made.languagesDict().set(kFrench, translation);
+  store(made, kFrench, translation);
   return made;
 }
 
@@ -64,7 +65,7 @@ TEST(ExportText, WritesLineFeedsAndPercentSignsAsTheyAre) {
 
 TEST(ExportText, KnowsAStringOnlyByTheWantedLanguage) {
   LocalizeString german = record("Open");
-  german.languagesDict().set(LanguageCode("de"), "Öffnen");
+  store(german, LanguageCode("de"), "Öffnen");
   EXPECT_EQ(block(german, 1, ExportScope::Untranslated), "--- 1 ---\n/*  */\nOpen\n\n\n");
 }
 

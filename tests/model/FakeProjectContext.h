@@ -1,26 +1,23 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "model/FakeNotificationCenter.h"
+#include "model/EditDoor.h"
 #include "model/Language.h"
 #include "model/LocalizeString.h"
 #include "model/ProjectContext.h"
 
 namespace glossmill {
 
-/// An open project with a number of languages and a selection; writes down which counts were changed.
+/// An open project with a number of languages and a selection; writes down the edits that it was given.
 class FakeProjectContext : public ProjectContext {
  public:
-  struct CountChange {
-    LanguageCode code;
-    int difference = 0;
-  };
-
   explicit FakeProjectContext(std::int64_t languages = 0) : m_totalLanguages(languages) {}
 
   void setTotalLanguages(std::int64_t total) { m_totalLanguages = total; }
@@ -28,8 +25,8 @@ class FakeProjectContext : public ProjectContext {
     m_selectedString = std::move(record);
     m_selectedLanguage = std::move(language);
   }
-  const std::vector<CountChange>& countChanges() const { return m_countChanges; }
-  FakeNotificationCenter& center() { return m_center; }
+  /// Those that changed something.
+  const std::vector<Edit>& edits() const { return m_edits; }
 
   std::int64_t totalLanguages() const override { return m_totalLanguages; }
   std::shared_ptr<LocalizeString> selectedString() const override { return m_selectedString; }
@@ -40,17 +37,18 @@ class FakeProjectContext : public ProjectContext {
   std::string languageStatusString(const Language& language) const override {
     return "status text of " + language.iso639();
   }
-  NotificationCenter& notifications() const override { return m_center; }
-  void translationCountChanged(LanguageCode code, int difference) override {
-    m_countChanges.push_back({code, difference});
+  void applyEdit(EditKind kind, const Edit& edit) override {
+    EXPECT_EQ(kind, EditKind::Typing);
+    EditDoor door;
+    door.addObserver([this](const Edit& applied, const EditStep&) { m_edits.push_back(applied); });
+    door.applyEdit(kind, edit);
   }
 
  private:
   std::int64_t m_totalLanguages;
   std::shared_ptr<LocalizeString> m_selectedString;
   std::shared_ptr<Language> m_selectedLanguage;
-  std::vector<CountChange> m_countChanges;
-  mutable FakeNotificationCenter m_center;
+  std::vector<Edit> m_edits;
 };
 
 }  // namespace glossmill

@@ -8,13 +8,14 @@
 #include "model/FakeProjectContext.h"
 #include "model/LocalizeString.h"
 #include "support/LanguageCodes.h"
+#include "support/StoredTranslation.h"
 
 namespace glossmill {
 namespace {
 
 LocalizeString translatedInto(std::initializer_list<LanguageCode> codes) {
   LocalizeString record;
-  for (const LanguageCode code : codes) record.languagesDict().set(code, "text");
+  for (const LanguageCode code : codes) store(record, code, "text");
   return record;
 }
 
@@ -66,7 +67,7 @@ TEST_F(LocalizeStringStatusTest, IsIncompleteWithATranslationTooMany) {
 TEST_F(LocalizeStringStatusTest, CountsAnEmptyTranslationAsPresent) {
   project.setTotalLanguages(1);
   LocalizeString record;
-  record.languagesDict().set(kGerman, "");
+  store(record, kGerman, "");
   EXPECT_EQ(record.status(&project), Status::Complete);
   EXPECT_EQ(record.statusString(texts, &project), "Complete");
 }

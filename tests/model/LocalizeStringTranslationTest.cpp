@@ -1,14 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "model/FakeProjectContext.h"
 #include "model/Language.h"
 #include "model/LocalizeString.h"
 #include "support/LanguageCodes.h"
+#include "support/StoredTranslation.h"
 
 namespace glossmill {
 namespace {
@@ -21,22 +22,20 @@ std::shared_ptr<Language> languageOf(LanguageCode code) {
 
 class LocalizeStringTranslationTest : public testing::Test {
  protected:
+  using Text = std::optional<std::string>;
+
   void SetUp() override { project.select(record, languageOf(kGerman)); }
 
   std::string translation() const { return record->translationForSelectedString(&project); }
   void setTranslation(std::string_view text) { record->setTranslationForSelectedString(text, &project); }
 
-  void expectNothingPosted() {
-    EXPECT_TRUE(project.center().posts().empty());
-    EXPECT_TRUE(project.countChanges().empty());
-  }
-  void expectOnePost(int difference) {
-    ASSERT_EQ(project.center().posts().size(), 1U);
-    EXPECT_EQ(project.center().posts()[0].name, "GlossmillTranslationChanged");
-    EXPECT_EQ(project.center().posts()[0].object, record.get());
-    ASSERT_EQ(project.countChanges().size(), 1U);
-    EXPECT_EQ(project.countChanges()[0].code, kGerman);
-    EXPECT_EQ(project.countChanges()[0].difference, difference);
+  void expectNoEdit() { EXPECT_TRUE(project.edits().empty()); }
+  void expectOneEdit(const Text& before, const Text& after) {
+    ASSERT_EQ(project.edits().size(), 1U);
+    EXPECT_EQ(project.edits()[0].record, record);
+    EXPECT_EQ(project.edits()[0].language, kGerman);
+    EXPECT_EQ(project.edits()[0].before, before);
+    EXPECT_EQ(project.edits()[0].after, after);
   }
 
   FakeProjectContext project{2};
@@ -44,26 +43,26 @@ class LocalizeStringTranslationTest : public testing::Test {
 };
 
 TEST_F(LocalizeStringTranslationTest, IsThatOfTheSelectedLanguage) {
-  record->languagesDict().set(kGerman, "Öffnen");
-  record->languagesDict().set(kFrench, "Ouvrir");
+  store(*record, kGerman, "Öffnen");
+  store(*record, kFrench, "Ouvrir");
   EXPECT_EQ(translation(), "Öffnen");
   project.select(record, languageOf(kFrench));
   EXPECT_EQ(translation(), "Ouvrir");
 }
 
 TEST_F(LocalizeStringTranslationTest, IsEmptyWithoutAnEntry) {
-  record->languagesDict().set(kFrench, "Ouvrir");
+  store(*record, kFrench, "Ouvrir");
   EXPECT_EQ(translation(), "");
 }
 
 TEST_F(LocalizeStringTranslationTest, IsEmptyForAnEmptyEntryThatStaysPresent) {
-  record->languagesDict().set(kGerman, "");
+  store(*record, kGerman, "");
   EXPECT_EQ(translation(), "");
   EXPECT_EQ(record->languagesDict().count(), 1U);
 }
 
 TEST_F(LocalizeStringTranslationTest, IsEmptyWithoutASelectionOrAProject) {
-  record->languagesDict().set(kGerman, "Öffnen");
+  store(*record, kGerman, "Öffnen");
   EXPECT_EQ(record->translationForSelectedString(nullptr), "");
   project.select(nullptr, languageOf(kGerman));
   EXPECT_EQ(translation(), "");
@@ -72,9 +71,9 @@ TEST_F(LocalizeStringTranslationTest, IsEmptyWithoutASelectionOrAProject) {
 }
 
 TEST_F(LocalizeStringTranslationTest, IsThatOfTheSelectedRecordWhicheverRecordIsAsked) {
-  record->languagesDict().set(kGerman, "Öffnen");
+  store(*record, kGerman, "Öffnen");
   LocalizeString other;
-  other.languagesDict().set(kGerman, "Schließen");
+  store(other, kGerman, "Schließen");
   EXPECT_EQ(other.translationForSelectedString(&project), "Öffnen");
 }
 
@@ -83,61 +82,61 @@ TEST_F(LocalizeStringTranslationTest, SetOnAnotherRecordGoesToTheSelectedOne) {
   other.setTranslationForSelectedString("Öffnen", &project);
   EXPECT_EQ(record->languagesDict().find(kGerman), "Öffnen");
   EXPECT_EQ(other.languagesDict().count(), 0U);
-  expectOnePost(1);
+  expectOneEdit(std::nullopt, "Öffnen");
 }
 
-TEST_F(LocalizeStringTranslationTest, PostsOnceWhenItIsTheFirst) {
+TEST_F(LocalizeStringTranslationTest, GetsAnEntryWhenItIsTheFirst) {
   setTranslation("Öffnen");
   EXPECT_EQ(record->languagesDict().find(kGerman), "Öffnen");
   EXPECT_EQ(record->languagesDict().count(), 1U);
-  expectOnePost(1);
+  expectOneEdit(std::nullopt, "Öffnen");
 }
 
-TEST_F(LocalizeStringTranslationTest, PostsOnceAndLosesItsEntryWhenItIsCleared) {
-  record->languagesDict().set(kGerman, "Öffnen");
-  record->languagesDict().set(kFrench, "Ouvrir");
+TEST_F(LocalizeStringTranslationTest, LosesItsEntryWhenItIsCleared) {
+  store(*record, kGerman, "Öffnen");
+  store(*record, kFrench, "Ouvrir");
   setTranslation("");
   EXPECT_FALSE(record->languagesDict().contains(kGerman));
   EXPECT_EQ(record->languagesDict().find(kFrench), "Ouvrir");
-  expectOnePost(-1);
+  expectOneEdit("Öffnen", std::nullopt);
 }
 
-TEST_F(LocalizeStringTranslationTest, PostsNothingWhenAnEmptyOneIsSetWhereThereIsNone) {
+TEST_F(LocalizeStringTranslationTest, StaysWhenAnEmptyOneIsSetWhereThereIsNone) {
   setTranslation("");
   EXPECT_EQ(record->languagesDict().count(), 0U);
-  expectNothingPosted();
+  expectNoEdit();
 }
 
-TEST_F(LocalizeStringTranslationTest, PostsNothingWhenOneTextReplacesAnother) {
-  record->languagesDict().set(kGerman, "Auf");
+TEST_F(LocalizeStringTranslationTest, IsReplacedByAnotherText) {
+  store(*record, kGerman, "Auf");
   setTranslation("Öffnen");
   EXPECT_EQ(record->languagesDict().find(kGerman), "Öffnen");
-  expectNothingPosted();
+  expectOneEdit("Auf", "Öffnen");
 }
 
-TEST_F(LocalizeStringTranslationTest, PostsNothingWhenItsOwnTextIsSetAgain) {
-  record->languagesDict().set(kGerman, "Öffnen");
+TEST_F(LocalizeStringTranslationTest, StaysWhenItsOwnTextIsSetAgain) {
+  store(*record, kGerman, "Öffnen");
   setTranslation(*record->languagesDict().find(kGerman));
   EXPECT_EQ(record->languagesDict().find(kGerman), "Öffnen");
-  expectNothingPosted();
+  expectNoEdit();
 }
 
-TEST_F(LocalizeStringTranslationTest, PostsNothingWhenATextReplacesAnEmptyEntry) {
-  record->languagesDict().set(kGerman, "");
+TEST_F(LocalizeStringTranslationTest, ReplacesAnEmptyEntry) {
+  store(*record, kGerman, "");
   setTranslation("Öffnen");
   EXPECT_EQ(record->languagesDict().find(kGerman), "Öffnen");
-  expectNothingPosted();
+  expectOneEdit("", "Öffnen");
 }
 
 TEST_F(LocalizeStringTranslationTest, RemovesAnEmptyEntryWhenAnEmptyOneIsSet) {
-  record->languagesDict().set(kGerman, "");
+  store(*record, kGerman, "");
   setTranslation("");
   EXPECT_FALSE(record->languagesDict().contains(kGerman));
-  expectOnePost(-1);
+  expectOneEdit("", std::nullopt);
 }
 
 TEST_F(LocalizeStringTranslationTest, StaysWithoutASelectionOrAProject) {
-  record->languagesDict().set(kGerman, "Öffnen");
+  store(*record, kGerman, "Öffnen");
   record->setTranslationForSelectedString("Auf", nullptr);
   project.select(nullptr, languageOf(kGerman));
   setTranslation("Auf");
@@ -147,18 +146,7 @@ TEST_F(LocalizeStringTranslationTest, StaysWithoutASelectionOrAProject) {
   setTranslation("");
   EXPECT_EQ(record->languagesDict().find(kGerman), "Öffnen");
   EXPECT_EQ(record->languagesDict().count(), 1U);
-  expectNothingPosted();
-}
-
-TEST_F(LocalizeStringTranslationTest, IsStoredAndCountedWhenTheNotificationComes) {
-  std::vector<std::string> seen;
-  project.center().addObserver(this, kTranslationChangedNotification, [&](const void* object) {
-    EXPECT_EQ(object, record.get());
-    seen.push_back(translation() + ", counts " + std::to_string(project.countChanges().size()));
-  });
-  setTranslation("Öffnen");
-  setTranslation("");
-  EXPECT_EQ(seen, (std::vector<std::string>{"Öffnen, counts 1", ", counts 2"}));
+  expectNoEdit();
 }
 
 TEST_F(LocalizeStringTranslationTest, IsRawText) {

@@ -4,6 +4,7 @@
 
 #include "model/TranslationCounts.h"
 #include "support/LanguageCodes.h"
+#include "support/StoredTranslation.h"
 
 namespace glossmill {
 namespace {
@@ -24,9 +25,9 @@ TEST(TranslationCounts, FindEveryRecordMissingInALanguageThatNoneHas) {
 
 TEST(TranslationCounts, CountTheRecordsThatLackALanguage) {
   const StringArray records = threeRecords();
-  records[0]->languagesDict().set(kGerman, "Öffnen");
-  records[2]->languagesDict().set(kGerman, "");
-  records[1]->languagesDict().set(kFrench, "Fermer");
+  store(*records[0], kGerman, "Öffnen");
+  store(*records[2], kGerman, "");
+  store(*records[1], kFrench, "Fermer");
   TranslationCounts counts;
   EXPECT_EQ(counts.missing(kGerman, records), 1U);
   EXPECT_EQ(counts.missing(kFrench, records), 2U);
@@ -53,7 +54,7 @@ TEST(TranslationCounts, FollowAnEditInALanguageThatWasNotThereBefore) {
 
 TEST(TranslationCounts, CountAnEditBeforeTheFirstQuestionOnce) {
   const StringArray records = threeRecords();
-  records[0]->languagesDict().set(kGerman, "Öffnen");
+  store(*records[0], kGerman, "Öffnen");
   TranslationCounts counts;
   counts.adjust(kGerman, 1);
   EXPECT_EQ(counts.missing(kGerman, records), 2U);
@@ -61,10 +62,10 @@ TEST(TranslationCounts, CountAnEditBeforeTheFirstQuestionOnce) {
 
 TEST(TranslationCounts, CountAnewAfterALargerChange) {
   StringArray records = threeRecords();
-  records[0]->languagesDict().set(kGerman, "Öffnen");
+  store(*records[0], kGerman, "Öffnen");
   TranslationCounts counts;
   EXPECT_EQ(counts.missing(kGerman, records), 2U);
-  for (const auto& record : records) record->languagesDict().set(kGerman, "Öffnen");
+  for (const auto& record : records) store(*record, kGerman, "Öffnen");
   records.push_back(std::make_shared<LocalizeString>());
   counts.invalidate();
   EXPECT_EQ(counts.missing(kGerman, records), 1U);

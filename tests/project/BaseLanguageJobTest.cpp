@@ -64,6 +64,17 @@ TEST_F(BaseLanguageJob, RaisesTheChangedFlagWithoutANotification) {
   EXPECT_EQ(notifications, 0);
 }
 
+TEST_F(BaseLanguageJob, IsOneStepThroughTheDoorForEdits) {
+  std::vector<EditStep> steps;
+  m_test.project().edits().addObserver([&](const Edit&, const EditStep& step) { steps.push_back(step); });
+  fill();
+  m_test.setTranslation("Cut", "fr", "Couper");
+  ASSERT_EQ(steps.size(), 3U);
+  EXPECT_EQ(steps[0].kind, EditKind::Fill);
+  EXPECT_EQ(steps[0].number, steps[1].number);
+  EXPECT_NE(steps[1].number, steps[2].number);
+}
+
 TEST_F(BaseLanguageJob, KeepsTheChangedFlagOfALanguageThatHasEverything) {
   for (const char* key : {"Cut", "Done"}) m_test.setTranslation(key, "fr", "…");
   std::vector<double> values;

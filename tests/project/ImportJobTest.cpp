@@ -121,6 +121,43 @@ TEST_F(ImportJob, ReloadsBothTablesAndTheEditor) {
   EXPECT_EQ(m_test.window().translationTextView.changeCount, editor + 1);
 }
 
+TEST_F(ImportJob, IsOneStepThroughTheDoorForEdits) {
+  std::vector<EditStep> steps;
+  Texts texts;
+  m_test.project().edits().addObserver([&](const Edit& edit, const EditStep& step) {
+    steps.push_back(step);
+    texts.insert(texts.end(), {edit.before, edit.after});
+  });
+  import(kTranslated);
+  m_test.setTranslation("Cut", "fr", "Trancher");
+  EXPECT_EQ(texts, (Texts{"Additionner", "Ajouter", std::nullopt, "Gras", "Couper", "Trancher"}));
+  ASSERT_EQ(steps.size(), 3U);
+  EXPECT_EQ(steps[0].kind, EditKind::Import);
+  EXPECT_EQ(steps[0].number, steps[1].number);
+  EXPECT_NE(steps[1].number, steps[2].number);
+}
+
+TEST_F(ImportJob, ReportsWhatItDid) {
+  import(
+      "--- 1 ---\n\nAdd\nAjouter\n--- 2 ---\n\nBold\nGras\n--- 3 ---\n\nCut\nCouper\n"
+      "--- 4 ---\n\nPaste\nColler\n--- 5 ---\n\nCopy\nCopier\n");
+  const ImportReport& report = m_test.project().importReport();
+  EXPECT_FALSE(report.unread);
+  EXPECT_EQ(report.added, 1U);
+  EXPECT_EQ(report.changed, 1U);
+  EXPECT_EQ(report.unchanged, 1U);
+  EXPECT_EQ(report.unknown, 2U);
+}
+
+TEST_F(ImportJob, ReportsWhyTheFileCouldNotBeRead) {
+  import(kTranslated);
+  m_test.host.files.failOpening(kImported, "Permission denied.");
+  importFile();
+  ASSERT_TRUE(m_test.project().importReport().unread);
+  EXPECT_EQ(m_test.project().importReport().unread->sentence, "Permission denied.");
+  EXPECT_EQ(m_test.project().importReport().known(), 0U);
+}
+
 TEST_F(ImportJob, StaysSilentAboutAFileThatCannotBeRead) {
   m_test.host.files.addFile(kImported, kTranslated);
   m_test.host.files.failOpening(kImported, "Permission denied.");

@@ -6,6 +6,7 @@
 #include "exchange/ExportText.h"
 #include "exchange/ImportText.h"
 #include "support/LanguageCodes.h"
+#include "support/StoredTranslation.h"
 #include "support/TestProject.h"
 
 namespace glossmill {
@@ -43,7 +44,7 @@ StringArray randomRecords(unsigned seed) {
     for (std::size_t comments = random.below(4); comments > 0; --comments) {
       record->commentArray().push_back(random.text(8));
     }
-    if (random.below(4) != 0) record->languagesDict().set(kFrench, random.text(12));
+    if (random.below(4) != 0) store(*record, kFrench, random.text(12));
     records.push_back(std::move(record));
   }
   return records;
@@ -110,7 +111,7 @@ std::optional<std::string> importedAs(std::string_view key, std::string_view com
   LocalizeString record;
   record.setName(key);
   record.commentArray().emplace_back(comment);
-  record.languagesDict().set(kFrench, translation);
+  store(record, kFrench, translation);
   std::string text = kExportTextStart;
   appendExportBlock(text, record, 1, kFrench, ExportScope::AllStrings);
   const ImportTable table = importTable(text);

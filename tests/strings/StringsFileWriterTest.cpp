@@ -2,6 +2,7 @@
 
 #include "strings/StringsFileWriter.h"
 #include "support/LanguageCodes.h"
+#include "support/StoredTranslation.h"
 
 namespace glossmill {
 namespace {
@@ -16,7 +17,7 @@ std::shared_ptr<LocalizeString> record(std::string_view key, std::vector<std::st
 std::shared_ptr<LocalizeString> inFrench(std::string_view key, std::string_view translation,
                                          std::vector<std::string> comments = {}) {
   auto made = record(key, std::move(comments));
-  made->languagesDict().set(kFrench, translation);
+  store(*made, kFrench, translation);
   return made;
 }
 

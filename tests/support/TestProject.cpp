@@ -91,7 +91,7 @@ std::optional<std::string> TestProject::translation(std::string_view key, std::s
 }
 
 void TestProject::setTranslation(std::string_view key, std::string_view code, std::string_view text) {
-  record(key)->languagesDict().set(LanguageCode(code), text);
+  project().applyEdit(EditKind::Import, editOf(record(key), LanguageCode(code), std::string(text)));
 }
 
 std::vector<std::string> TestProject::keys() {

@@ -49,6 +49,7 @@ class TestProject {
   std::shared_ptr<Language> language(std::string_view code);
   /// Nothing when there is no such entry, or no such record.
   std::optional<std::string> translation(std::string_view key, std::string_view code);
+  /// Leaves the project without anything to save.
   void setTranslation(std::string_view key, std::string_view code, std::string_view text);
   /// The keys of the string list in its order.
   std::vector<std::string> keys();
