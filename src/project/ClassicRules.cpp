@@ -22,7 +22,7 @@ std::unique_ptr<LanguageTexts> ClassicRules::languageTexts(const StringArray& re
   return std::make_unique<StringsFileTexts>(records, codes);
 }
 
-/// Deliberately, a text that replaces another does not count, and nothing that was imported.
+/// Deliberately (rule 31), a text that replaces another does not count, and nothing that was imported.
 bool ClassicRules::marksChanged(EditKind kind, const Edit& edit) const {
   return kind != EditKind::Import && edit.entryDifference() != 0;
 }
