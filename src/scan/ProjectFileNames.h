@@ -7,8 +7,9 @@
 
 namespace glossmill {
 
-/// Tells which source files a project file mentions. The test is deliberately loose (rule 4): a name counts wherever its
-/// letters stand, also inside a longer name. Any number of questions costs one sort of the places where a name can end.
+/// Tells which source files a project file mentions. The test is deliberately loose (rule 4): a name counts wherever
+/// its letters stand, also inside a longer name. Any number of questions costs one sort of the places where a name can
+/// end.
 class ProjectFileNames {
  public:
   /// `text` outlives this. An empty text mentions nothing.
