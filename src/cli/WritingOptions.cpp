@@ -17,6 +17,8 @@ constexpr std::chrono::milliseconds kBetweenTries{50};
 
 std::string allowanceFor(SaveRefusal::Kind kind) {
   switch (kind) {
+    case SaveRefusal::Kind::Incomplete:
+      return "incomplete";
     case SaveRefusal::Kind::Outside:
       return "outside";
     case SaveRefusal::Kind::Changed:

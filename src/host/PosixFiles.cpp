@@ -47,21 +47,17 @@ class PosixReader : public ByteReader {
  public:
   explicit PosixReader(FileDescriptor file) : m_file(std::move(file)) {}
 
-  /// A regular file gives less than was asked for only at its end, so that need not be asked for again.
+  /// Only nothing at all is the end: a disk may give less than was asked for at any time.
   Result<std::size_t> read(std::span<char> buffer) override {
-    while (!m_ended) {
+    while (true) {
       const ssize_t got = ::read(m_file.number(), buffer.data(), buffer.size());
-      if (got < 0 && errno == EINTR) continue;
-      if (got < 0) return systemError(errno);
-      m_ended = static_cast<std::size_t>(got) < buffer.size();
-      return static_cast<std::size_t>(got);
+      if (got >= 0) return static_cast<std::size_t>(got);
+      if (errno != EINTR) return systemError(errno);
     }
-    return std::size_t{0};
   }
 
  private:
   FileDescriptor m_file;
-  bool m_ended = false;
 };
 
 /// Opening a pipe without this flag would wait for its other end.

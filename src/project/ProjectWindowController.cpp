@@ -53,6 +53,7 @@ void ProjectWindowController::clearProject() {
   m_stringController.removeAllObjects();
   m_fileList.clear();
   m_readFiles.clear();
+  m_unread.clear();
   m_scanReport = ScanReport();
   // The array itself stays with the choosers that were given it; the project gets an empty one.
   m_languageController.setContent(std::make_shared<LanguageArray>());

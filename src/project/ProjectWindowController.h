@@ -26,6 +26,7 @@
 #include "project/ReadFiles.h"
 #include "project/SaveReport.h"
 #include "project/ScanMessages.h"
+#include "safety/WatchedReading.h"
 
 namespace glossmill {
 
@@ -79,6 +80,8 @@ class ProjectWindowController : public ProjectContext,
   const StatusTexts& statusTexts() const { return m_statusTexts; }
   /// What the scan of the open project left out.
   const ScanReport& scanReport() const { return m_scanReport; }
+  /// What of the open project the system did not give, or not completely.
+  const std::vector<UnreadPlace>& unread() const { return m_unread; }
   /// Whether the long-time sheet was begun and not yet closed.
   bool longJobRunning() const { return m_longJobRunning; }
 
@@ -213,6 +216,7 @@ class ProjectWindowController : public ProjectContext,
   void editApplied(const Edit& edit, EditKind kind);
   void step(const std::function<void()>& select);
   bool save(const LanguageArray& languages);
+  SaveResult saveUnlessIncomplete(const SaveOrder& order, const std::vector<FileText>& plan);
   SaveResult writeFiles(const std::vector<FileText>& plan);
   void rememberSave(const std::vector<FileText>& plan, const SaveResult& result);
   std::string saveQuestion(SaveRefusal::Kind kind) const;
@@ -259,6 +263,8 @@ class ProjectWindowController : public ProjectContext,
   ScanMemory m_scanMemory;  ///< written by phase one
   ScanReport m_scanReport;
   ReadFiles m_readFiles;  ///< written by phase two
+  WatchedReading m_reading{m_host.files, m_host.saves};
+  std::vector<UnreadPlace> m_unread;  ///< of the open project
   SaveReport m_lastSave;
   ImportReport m_importReport;
   bool m_changed = false;

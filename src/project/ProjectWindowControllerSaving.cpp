@@ -9,6 +9,7 @@ namespace glossmill {
 namespace {
 
 SaveAllowance allowanceWith(SaveAllowance allowance, SaveRefusal::Kind kind) {
+  if (kind == SaveRefusal::Kind::Incomplete) allowance.incomplete = true;
   if (kind == SaveRefusal::Kind::Outside) allowance.outside = true;
   if (kind == SaveRefusal::Kind::Changed) allowance.changed = true;
   if (kind == SaveRefusal::Kind::NoCopy) allowance.noCopy = true;
@@ -49,13 +50,24 @@ bool ProjectWindowController::save(const LanguageArray& languages) {
   return allWritten;
 }
 
+/// What could not be read is not in the table, so a save would take it out of the files.
+SaveResult ProjectWindowController::saveUnlessIncomplete(const SaveOrder& order, const std::vector<FileText>& plan) {
+  if (m_unread.empty() || order.allowance.incomplete) {
+    return SaveTransaction(m_host.files, m_host.saves, order).save(plan);
+  }
+  SaveResult refused;
+  refused.refusal = SaveRefusal{SaveRefusal::Kind::Incomplete, {}};
+  for (const UnreadPlace& place : m_unread) refused.refusal->places.push_back({place.url, place.sentence});
+  return refused;
+}
+
 SaveResult ProjectWindowController::writeFiles(const std::vector<FileText>& plan) {
   SaveOrder order{m_projectDirectory, m_options.version,   m_options.command,
                   m_host.saves.now(), m_options.allowance, m_options.pretendsToSave};
-  SaveResult result = SaveTransaction(m_host.files, m_host.saves, order).save(plan);
+  SaveResult result = saveUnlessIncomplete(order, plan);
   while (result.refusal && m_options.asksToSave && mayGoOn(*result.refusal)) {
     order.allowance = allowanceWith(order.allowance, result.refusal->kind);
-    result = SaveTransaction(m_host.files, m_host.saves, order).save(plan);
+    result = saveUnlessIncomplete(order, plan);
   }
   return result;
 }
@@ -74,6 +86,8 @@ void ProjectWindowController::rememberSave(const std::vector<FileText>& plan, co
 
 std::string ProjectWindowController::saveQuestion(SaveRefusal::Kind kind) const {
   switch (kind) {
+    case SaveRefusal::Kind::Incomplete:
+      return localized("Parts of the project could not be read, and a save would lose what they hold. Save anyway?");
     case SaveRefusal::Kind::Outside:
       return localized("Files outside the project would be written. Save anyway?");
     case SaveRefusal::Kind::Changed:

@@ -3,19 +3,27 @@
 namespace glossmill {
 
 ScanInput ProjectWindowController::scanInput(ScanListener& listener) {
-  return {m_host.files, m_iso639Dict, m_longTimeCanceled, listener};
+  return {m_reading, m_iso639Dict, m_longTimeCanceled, listener};
 }
 
 void ProjectWindowController::happened(const ScanEvent& event) {
   if (const auto* source = std::get_if<SourceBegins>(&event)) m_actualParseFileName = source->file;
   m_readFiles.add(event, m_host.saves);
+  // A source that cannot be decoded is passed over by the rules; these two would take words along.
+  if (const auto* file = std::get_if<ProjectFileUnread>(&event)) m_reading.note(file->file, file->error.sentence);
+  if (const auto* file = std::get_if<StringsFileUnread>(&event)) m_reading.note(file->file, file->error.sentence);
   m_scanMessages.write(event);
 }
 
 void ProjectWindowController::parseFileList(const FileUrl& directory, const ProjectRules& rules) {
   const auto result = std::make_shared<ScanResult>();
+  m_reading.clear();
   ReportingScanListener listener(result->report, *this);
   rules.readSources(directory, scanInput(listener), m_scanMemory, *result);
+  const std::optional<FileUrl>& package = m_scanMemory.projectPackage;
+  if (package && m_scanMemory.projectFileData == "") {
+    m_reading.note(package->appending("project.pbxproj"), "The project file is empty.");
+  }
   onMainThread([&] { endParseFileList(result); });
 }
 
@@ -48,6 +56,7 @@ void ProjectWindowController::endParseLocalizeableStringList(ScanResult& result)
 void ProjectWindowController::installResult(ScanResult& result) {
   m_window.outlets.stringTableView->beginUpdates();
   m_scanReport = std::move(result.report);
+  m_unread = m_reading.unread();
   m_fileList = std::move(result.fileList);
   m_stringController.addObjects(result.stringList.records());
   m_stringController.setSelectionIndex(0);

@@ -17,7 +17,7 @@ namespace glossmill {
 
 /// Why nothing was written at all.
 struct SaveRefusal {
-  enum class Kind { Outside, Changed, NoCopy };
+  enum class Kind { Incomplete, Outside, Changed, NoCopy };
   Kind kind = Kind::Outside;
   struct Place {
     FileUrl file;

@@ -240,6 +240,66 @@ TEST_F(Saving, AFileOfItsOwnIsNoChangeByOthers) {
   EXPECT_EQ(m_test.project().lastSave().refusal, std::nullopt);
 }
 
+/// What cannot be read would be lost, so nothing is written unless somebody says so.
+class SavingWhatWasNotRead : public testing::Test {
+ protected:
+  SavingWhatWasNotRead() {
+    m_test.addString("Open", "Menu");
+    m_test.addLanguage("de", "\"Open\" = \"Auf\";");
+    m_test.addLanguage("fr", "\"Open\" = \"Ouvrir\";");
+  }
+  std::vector<std::string> unread() {
+    std::vector<std::string> paths;
+    for (const UnreadPlace& place : m_test.project().unread()) paths.push_back(place.url.path());
+    return paths;
+  }
+  void expectRefusal() {
+    m_test.project().setChanged(true);
+    m_test.host.panels.willAnswer(AlertAnswer::Default);
+    EXPECT_FALSE(m_test.project().saveProject());
+    EXPECT_EQ(m_test.project().lastSave().refusal->kind, SaveRefusal::Kind::Incomplete);
+    EXPECT_TRUE(m_test.project().changed());
+    EXPECT_EQ(m_test.host.files.written(), Texts());
+  }
+
+  TestProject m_test;
+};
+
+TEST_F(SavingWhatWasNotRead, IsRefusedForADirectoryThatCannotBeListed) {
+  m_test.host.files.addDirectory(inProject("Sources"));
+  m_test.host.files.failListing(inProject("Sources"), "No.");
+  m_test.open();
+  EXPECT_EQ(unread(), Texts{inProject("Sources")});
+  expectRefusal();
+}
+
+TEST_F(SavingWhatWasNotRead, IsRefusedForAStringsFileThatCannotBeReadOrDecoded) {
+  m_test.host.files.failReadingAfter(stringsFileOf("de"), 3, "Broken.");
+  m_test.host.files.addFile(stringsFileOf("fr"), "\"Open\" = \"\xFF\";");
+  m_test.open();
+  EXPECT_EQ(unread(), (Texts{stringsFileOf("de"), stringsFileOf("fr")}));
+  expectRefusal();
+}
+
+TEST_F(SavingWhatWasNotRead, IsDoneWhenTheUserSaysSo) {
+  m_test.host.files.failReadingAfter(stringsFileOf("de"), 3, "Broken.");
+  m_test.open();
+  m_test.host.panels.willAnswer(AlertAnswer::Alternate);  // it is not whole
+  m_test.host.panels.willAnswer(AlertAnswer::Alternate);  // and so it cannot be kept
+  EXPECT_TRUE(m_test.project().saveProject());
+  EXPECT_EQ(m_test.savedFile("de"), "\n");
+}
+
+TEST_F(SavingWhatWasNotRead, CountsAnewWithTheNextScan) {
+  m_test.host.files.addDirectory(inProject("Sources"));
+  m_test.host.files.failListing(inProject("Sources"), "No.");
+  m_test.open();
+  m_test.host.files.remove(inProject("Sources"));
+  m_test.open();
+  EXPECT_EQ(unread(), Texts());
+  EXPECT_TRUE(m_test.project().saveProject());
+}
+
 TEST_F(Saving, TellsHowManyEntriesWereNotWrittenAgain) {
   EXPECT_TRUE(m_test.project().saveProject());
   EXPECT_EQ(m_test.project().lastSave().languages.at(0).entriesBefore, 1U);
