@@ -85,7 +85,7 @@ void AppDelegate::openProjectWindow() {
 }
 
 void AppDelegate::openLogWindow() {
-  if (!m_logWindowController) m_logWindowController = std::make_unique<LogWindowController>(m_host);
+  if (!m_logWindowController) m_logWindowController = std::make_unique<LogWindowController>(m_host, m_keptLog);
   m_logWindowController->showWindow();
 }
 
@@ -99,10 +99,10 @@ void AppDelegate::clearRecent() {
   storeRecent();
 }
 
-void AppDelegate::logText(std::string_view text) {
+void AppDelegate::logText(const Message& message) {
   m_host.threads.performOnMainThreadAndWait([&] {
     openLogWindow();
-    m_logWindowController->logText(text);
+    m_logWindowController->logText(message);
   });
 }
 

@@ -16,7 +16,7 @@ namespace glossmill {
 class AppDelegate : public ApplicationServices {
  public:
   /// `host` outlives the delegate.
-  explicit AppDelegate(const Host& host) : m_host(host) {}
+  explicit AppDelegate(const Host& host, KeptLog keptLog = KeptLog::Whole) : m_host(host), m_keptLog(keptLog) {}
 
   // Application events.
   void applicationDidFinishLaunching();
@@ -43,7 +43,7 @@ class AppDelegate : public ApplicationServices {
   void clearRecent();
 
   // Services for the project window.
-  void logText(std::string_view text) override;
+  void logText(const Message& message) override;
   void clearLog() override;
   void saveRecent(std::string_view path) override;
   void loadRecent();
@@ -57,6 +57,7 @@ class AppDelegate : public ApplicationServices {
   void storeRecent();
 
   Host m_host;
+  const KeptLog m_keptLog;
   std::unique_ptr<ProjectWindowController> m_projectWindowController;
   std::unique_ptr<LogWindowController> m_logWindowController;
   std::vector<std::string> m_recentArray;  ///< path texts, most recent first

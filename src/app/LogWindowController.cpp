@@ -11,30 +11,23 @@ void LogWindowController::showWindow() {
 }
 
 void LogWindowController::windowDidLoad() {
-  m_logText.clear();
-  m_messageEnds.clear();
+  m_log.clear();
 }
 
-void LogWindowController::logText(std::string_view text) {
-  m_logText += text;
-  m_logText += '\n';
-  m_messageEnds.push_back(m_logText.size());
+void LogWindowController::logText(const Message& message) {
+  if (m_kept == KeptLog::Nothing) return;
+  if (m_kept == KeptLog::LastMessage) m_log.clear();
+  m_log.add(message);
   updateTextView();
 }
 
 void LogWindowController::clearLog() {
-  m_logText.clear();
-  m_messageEnds.clear();
+  m_log.clear();
   updateTextView();
 }
 
 void LogWindowController::updateTextView() {
-  if (m_interface.loaded) m_interface.outlets.textView->setString(m_logText);
-}
-
-std::string_view LogWindowController::message(std::size_t index) const {
-  const std::size_t start = index == 0 ? 0 : m_messageEnds[index - 1];
-  return std::string_view(m_logText).substr(start, m_messageEnds[index] - 1 - start);
+  if (m_interface.loaded) m_interface.outlets.textView->setString(m_log.text());
 }
 
 }  // namespace glossmill

@@ -1,37 +1,40 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/Host.h"
+#include "text/MessageList.h"
 
 namespace glossmill {
+
+/// What stays of a log: all of it where it can be looked at, less where messages are only passed on, or not even that.
+enum class KeptLog { Whole, LastMessage, Nothing };
 
 /// The log window: every message for the user that is not an alert, a line feed after each. Main thread.
 class LogWindowController {
  public:
-  explicit LogWindowController(const Host& host) : m_host(host) {}
+  explicit LogWindowController(const Host& host, KeptLog kept = KeptLog::Whole) : m_host(host), m_kept(kept) {}
 
   /// Loads the window on first use, which starts the log empty, and brings it to the front.
   void showWindow();
   void windowDidLoad();
-  void logText(std::string_view text);
+  void logText(const Message& message);
   void clearLog();
   /// Gives the text view the whole log.
   void updateTextView();
 
-  const std::string& logText() const { return m_logText; }
-  std::size_t messageCount() const { return m_messageEnds.size(); }
+  /// What is kept of the log; valid until it changes.
+  std::string_view logText() const { return m_log.text(); }
+  std::size_t messageCount() const { return m_log.count(); }
   /// Without its final line feed; valid until the log changes.
-  std::string_view message(std::size_t index) const;
+  std::string_view message(std::size_t index) const { return m_log.message(index); }
 
  private:
   Host m_host;
   Interface<LogWindowOutlets> m_interface;
-  std::string m_logText;
-  std::vector<std::size_t> m_messageEnds;  ///< places behind the final line feeds in m_logText
+  const KeptLog m_kept;
+  MessageList m_log;
 };
 
 }  // namespace glossmill

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "cli/DisplayText.h"
+#include "text/PrintableText.h"
 
 namespace glossmill {
 
@@ -78,9 +78,10 @@ void Console::error(std::string_view text) {
 }
 
 void Console::append(std::string_view prefix, std::string_view text) {
-  const std::string clean = printableText(text);
   const std::lock_guard lock(m_mutex);
-  m_pending.append(prefix).append(clean).push_back('\n');
+  m_pending.append(prefix);
+  appendPrintableText(m_pending, text);
+  m_pending.push_back('\n');
   if (m_pending.size() >= kMostPending) write();
 }
 

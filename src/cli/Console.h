@@ -21,6 +21,7 @@ class Console {
   /// Messages before are Normal.
   void setLoudness(Loudness loudness) { m_loudness = loudness; }
   bool isQuiet() const { return m_loudness == Loudness::Quiet; }
+  bool isVerbose() const { return m_loudness == Loudness::Verbose; }
 
   /// Written as it is.
   void data(std::string_view text);

@@ -38,40 +38,7 @@ std::size_t columns(char32_t codePoint) {
   return contains(kTwoColumns, codePoint) ? 2 : 1;
 }
 
-bool isControl(char32_t codePoint) {
-  return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
-}
-
-std::string printable(std::string_view text, std::string_view allowedControls) {
-  std::string clean;
-  clean.reserve(text.size());
-  while (!text.empty()) {
-    const std::size_t valid = validUtf8Prefix(text);
-    std::string_view good = text.substr(0, valid);
-    while (!good.empty()) {
-      const std::string_view before = good;
-      const char32_t codePoint = takeCodePoint(good);
-      const std::string_view bytes = before.substr(0, before.size() - good.size());
-      const bool harmless = !isControl(codePoint) || allowedControls.find(bytes) != std::string_view::npos;
-      clean += harmless ? bytes : kReplacementCharacter;
-    }
-    text.remove_prefix(valid);
-    if (text.empty()) break;
-    clean += kReplacementCharacter;
-    text.remove_prefix(1);
-  }
-  return clean;
-}
-
 }  // namespace
-
-std::string printableText(std::string_view text) {
-  return printable(text, "\n\t");
-}
-
-std::string printableLine(std::string_view text) {
-  return printable(text, "");
-}
 
 std::size_t displayWidth(std::string_view text) {
   std::size_t width = 0;

@@ -10,6 +10,7 @@
 #include "host/PosixSaveDisk.h"
 #include "safety/EntryCounts.h"
 #include "safety/SavedVersions.h"
+#include "text/PrintableText.h"
 
 namespace glossmill {
 

@@ -37,7 +37,7 @@ void printProjectJson(const ProjectSession& session) {
   writer.list("strings", project.stringList().size(),
               [&](std::size_t i) { return stringJson(session, *project.stringList()[i]); });
   writer.list("log", log ? log->messageCount() : 0, [&](std::size_t i) { return log->message(i); });
-  writer.list("systemLog", session.systemLog().size(), [&](std::size_t i) { return session.systemLog()[i]; });
+  writer.list("systemLog", session.systemLog().count(), [&](std::size_t i) { return session.systemLog().message(i); });
   writer.end();
 }
 

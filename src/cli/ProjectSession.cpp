@@ -53,9 +53,14 @@ std::optional<FileChange> changeOf(const FileOutcome& outcome) {
   return std::nullopt;
 }
 
+KeptLog keptLog(const Console& console, const ProjectSession::Options& options) {
+  if (options.keepsLogs) return KeptLog::Whole;
+  return console.isQuiet() ? KeptLog::Nothing : KeptLog::LastMessage;
+}
+
 /// The one delegate of the program, which ends with it.
-AppDelegate* keptDelegate(const Host& host) {
-  static AppDelegate* const kDelegate = new AppDelegate(host);
+AppDelegate* keptDelegate(const Host& host, KeptLog keptLog) {
+  static AppDelegate* const kDelegate = new AppDelegate(host, keptLog);
   return kDelegate;
 }
 
@@ -65,13 +70,17 @@ ProjectSession::ProjectSession(Console& console, Options options)
     : m_console(console),
       m_options(options),
       m_files(m_host.files, options.files),
-      m_delegate(keptDelegate(hostParts())) {
+      m_delegate(keptDelegate(hostParts(), keptLog(console, options))) {
   catchInterrupt();
   m_host.panels.answerAlert = [this](const AlertRequest& alert) { return answerAlert(alert); };
-  m_host.systemLog.onLine = [this](std::string_view line) { takeSystemLogLine(line); };
-  if (!console.isQuiet()) {
-    m_host.interfaces.setLogObserver([this](std::string_view wholeLog) { showLog(wholeLog); });
-  }
+  passMessagesOn();
+}
+
+/// Where nobody wants a message, its text is not even made.
+void ProjectSession::passMessagesOn() {
+  if (!m_console.isQuiet()) m_host.interfaces.setLogObserver([this](std::string_view) { showLastMessage(); });
+  if (!m_options.keepsLogs && !m_console.isVerbose()) return;
+  m_host.systemLog.onLine = [this](const Message& line) { takeSystemLogLine(line); };
 }
 
 Host ProjectSession::hostParts() {
@@ -190,19 +199,17 @@ void ProjectSession::reportFiles() const {
   reportSave();
 }
 
-/// The log grows line by line, and starts anew when a project is closed.
-void ProjectSession::showLog(std::string_view wholeLog) {
-  if (wholeLog.size() < m_shownLog) m_shownLog = 0;
-  std::string_view added = wholeLog.substr(m_shownLog);
-  m_shownLog = wholeLog.size();
-  if (added.ends_with('\n')) added.remove_suffix(1);
-  if (!added.empty()) m_console.message(added);
+/// The view is told of every message, but also when the log was emptied.
+void ProjectSession::showLastMessage() {
+  const std::size_t count = log()->messageCount();
+  const std::string_view last = count == 0 ? std::string_view() : log()->message(count - 1);
+  if (!last.empty()) m_console.message(last);
 }
 
 /// On the thread that writes; the log itself lets in one at a time.
-void ProjectSession::takeSystemLogLine(std::string_view line) {
-  if (m_options.keepsSystemLog) m_systemLog.emplace_back(line);
-  m_console.diagnostic(line);
+void ProjectSession::takeSystemLogLine(const Message& line) {
+  if (m_options.keepsLogs) m_systemLog.add(line);
+  if (m_console.isVerbose()) m_console.diagnostic(line.text());
 }
 
 /// Every alert has one button.

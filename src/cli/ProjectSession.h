@@ -19,7 +19,7 @@ namespace glossmill {
 class ProjectSession {
  public:
   struct Options {
-    bool keepsSystemLog = false;
+    bool keepsLogs = false;  ///< both of them, to be asked for afterwards
     ReportingFiles::Mode files = ReportingFiles::Mode::Write;
     /// Of a command that writes the project: it is kept for this process from the first read on. Outlives the session.
     const WritingOptions* writing = nullptr;
@@ -44,10 +44,9 @@ class ProjectSession {
   ReportingFiles& files() { return m_files; }
   Console& console() const { return m_console; }
 
-  /// Null as long as nothing was logged.
+  // Empty unless the session was told to keep them. The log is null as long as nothing was logged.
   const LogWindowController* log() const { return m_delegate->logWindowController(); }
-  /// Empty unless the session was told to keep it.
-  const std::vector<std::string>& systemLog() const { return m_systemLog; }
+  const MessageList& systemLog() const { return m_systemLog; }
 
   /// Prints what was written, or would have been, one file a line.
   void reportFiles() const;
@@ -58,16 +57,16 @@ class ProjectSession {
   ExitCode keepForWriting(const FileUrl& directory);
   void mentionUnfinishedSave(const FileUrl& directory);
   void reportSave() const;
-  void showLog(std::string_view wholeLog);
-  void takeSystemLogLine(std::string_view line);
+  void passMessagesOn();
+  void showLastMessage();
+  void takeSystemLogLine(const Message& line);
   AlertAnswer answerAlert(const AlertRequest& alert);
   void tick();
   std::string progressText() const;
 
   Console& m_console;
   const Options m_options;
-  std::vector<std::string> m_systemLog;
-  std::size_t m_shownLog = 0;  ///< bytes of the log that are on the console
+  MessageList m_systemLog;
   std::chrono::steady_clock::time_point m_jobStart;
   HeadlessHost m_host;
   ReportingFiles m_files;

@@ -43,7 +43,7 @@ void printSummary(const ProjectSession& session) {
 }
 
 ExitCode scan(const ScanOptions& options, Console& console) {
-  ProjectSession session(console, {.keepsSystemLog = options.json});
+  ProjectSession session(console, {.keepsLogs = options.json});
   const ExitCode opened = session.open(options.directory);
   if (opened != ExitCode::Fine) return opened;
   if (options.json) {

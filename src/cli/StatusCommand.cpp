@@ -7,6 +7,7 @@
 #include "cli/LanguageChoice.h"
 #include "cli/LanguageTable.h"
 #include "cli/Paths.h"
+#include "text/PrintableText.h"
 
 namespace glossmill {
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "cli/DisplayText.h"
+#include "text/PrintableText.h"
 
 namespace glossmill {
 

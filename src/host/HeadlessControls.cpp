@@ -36,8 +36,8 @@ void HeadlessProgressIndicator::tell() const {
   if (changed) changed();
 }
 
-void HeadlessLogTextView::setString(const std::string& text) {
-  m_text = &text;
+void HeadlessLogTextView::setString(std::string_view text) {
+  m_text = text;
   if (changed) changed(text);
 }
 

@@ -67,15 +67,15 @@ class HeadlessProgressIndicator : public ProgressIndicator {
 /// Refers to the text instead of copying it: a long log is set again with every line.
 class HeadlessLogTextView : public LogTextView {
  public:
-  void setString(const std::string& text) override;
+  void setString(std::string_view text) override;
 
   /// The whole log, "" before the first text; valid as long as the text that was set.
-  std::string_view string() const { return m_text ? std::string_view(*m_text) : std::string_view(); }
+  std::string_view string() const { return m_text; }
 
   std::function<void(std::string_view)> changed;  ///< called with the whole text after each change
 
  private:
-  const std::string* m_text = nullptr;
+  std::string_view m_text;
 };
 
 class HeadlessTranslationTextView : public TranslationTextView {

@@ -2,9 +2,10 @@
 
 namespace glossmill {
 
-void HeadlessSystemLog::write(std::string_view message) {
+void HeadlessSystemLog::write(const Message& message) {
+  if (!onLine) return;
   const std::lock_guard lock(m_mutex);
-  if (onLine) onLine(message);
+  onLine(message);
 }
 
 }  // namespace glossmill

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "text/Message.h"
+
 namespace glossmill {
 
 /// What the project asks of the application around it (the application delegate).
@@ -9,7 +11,7 @@ class ApplicationServices {
  public:
   virtual ~ApplicationServices() = default;
   /// One message for the log window. Any thread; returns when the line is in the log.
-  virtual void logText(std::string_view text) = 0;
+  virtual void logText(const Message& message) = 0;
   virtual void clearLog() = 0;
   /// Puts a project directory's path at the top of the recent projects.
   virtual void saveRecent(std::string_view path) = 0;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <string>
 #include <string_view>
 
 namespace glossmill {
@@ -56,7 +55,7 @@ class LogTextView {
   virtual ~LogTextView() = default;
   /// Shows the whole of `text`, which stays where it is until the next call; a view may draw it later, but before
   /// anybody looks. Usually only the end of the text is new.
-  virtual void setString(const std::string& text) = 0;
+  virtual void setString(std::string_view text) = 0;
 };
 
 /// The editor of the selected translation.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string_view>
+#include "text/Message.h"
 
 namespace glossmill {
 
@@ -9,7 +9,7 @@ class SystemLog {
  public:
   virtual ~SystemLog() = default;
   /// One message, without a final line feed; it may hold line feeds of its own.
-  virtual void write(std::string_view message) = 0;
+  virtual void write(const Message& message) = 0;
 };
 
 }  // namespace glossmill

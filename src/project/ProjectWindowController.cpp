@@ -9,7 +9,7 @@ ProjectWindowController::ProjectWindowController(const Host& host, ApplicationSe
     : m_host(host),
       m_application(application),
       m_statusTexts(host.bundle),
-      m_scanMessages(host.bundle, host.systemLog, [this](std::string_view text) { logText(text); }),
+      m_scanMessages(host.bundle, host.systemLog, [this](const Message& message) { logText(message); }),
       m_rules(&projectRules(m_options.rules)) {
   m_stringController.addObserver([this](ArrayChange change) {
     if (change == ArrayChange::Content) m_counts.invalidate();
@@ -43,7 +43,7 @@ void ProjectWindowController::loadIsoTable() {
     m_iso639Dict = table.value();
     return;
   }
-  systemLog(formatText("Error reading ISO file: %@", {table.error().sentence}));
+  systemLog({"Error reading ISO file: %@", {table.error().sentence}});
   logText(localized("Error reading ISO file from bundle"));
 }
 
@@ -61,8 +61,8 @@ void ProjectWindowController::clearProject() {
   m_opened = false;
 }
 
-void ProjectWindowController::logText(std::string_view text) {
-  m_application.logText(text);
+void ProjectWindowController::logText(const Message& message) {
+  m_application.logText(message);
 }
 
 void ProjectWindowController::setChanged(bool changed) {

@@ -57,7 +57,7 @@ class ProjectWindowController : public ProjectContext,
   /// project file cannot be read tests membership against it.
   void clearProject();
   /// Any thread.
-  void logText(std::string_view text);
+  void logText(const Message& message);
 
   bool changed() const { return m_changed; }
   void setChanged(bool changed);
@@ -198,7 +198,7 @@ class ProjectWindowController : public ProjectContext,
   void windowDidLoad();
   void loadIsoTable();
   std::string localized(std::string_view key) const { return m_host.bundle.localizedString(key); }
-  void systemLog(std::string_view message) { m_host.systemLog.write(message); }
+  void systemLog(const Message& message) { m_host.systemLog.write(message); }
   void onMainThread(const std::function<void()>& work) { m_host.threads.performOnMainThreadAndWait(work); }
   void runOkAlert(const std::string& message, std::optional<AlertRequest::Cause> cause = std::nullopt);
 

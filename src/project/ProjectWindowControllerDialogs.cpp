@@ -109,7 +109,7 @@ bool ProjectWindowController::createLanguageDirectory(const Language& language) 
   if (created) return true;
   runOkAlert(formatText(localized("Error creating %@ for language %@"), {directory.text(), language.description()}),
              AlertRequest::Cause{directory, created.error()});
-  systemLog(formatText("Error %@ creating directory %@", {created.error().sentence, directory.text()}));
+  systemLog({"Error %@ creating directory %@", {created.error().sentence, directory.text()}});
   return false;
 }
 

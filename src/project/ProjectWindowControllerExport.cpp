@@ -34,7 +34,7 @@ void ProjectWindowController::saveExportTextFile(const Language& language, const
   if (!written) {
     runOkAlert(formatText(localized("Error saving export file for language %@"), {language.description()}),
                AlertRequest::Cause{file, written.error()});
-    systemLog(formatText("Error %@ writing file: %@", {written.error().sentence, file.text()}));
+    systemLog({"Error %@ writing file: %@", {written.error().sentence, file.text()}});
   }
   didEndLongTimeSheetReturnCodeContextInfo();
 }

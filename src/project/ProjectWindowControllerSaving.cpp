@@ -120,11 +120,11 @@ void ProjectWindowController::tellOfSave(const Language& language, const FileOut
   } else if (outcome.kind == FileOutcome::Kind::Failed) {
     runOkAlert(formatText(localized("Error saving Localizable.strings for language %@"), {name}),
                AlertRequest::Cause{url, outcome.error});
-    systemLog(formatText("Error %@ writing file: %@", {outcome.error.sentence, url.text()}));
+    systemLog({"Error %@ writing file: %@", {outcome.error.sentence, url.text()}});
   } else if (outcome.kind == FileOutcome::Kind::DirectoryFailed) {
     runOkAlert(formatText(localized("Error creating %@ for language %@"), {url.text(), name}),
                AlertRequest::Cause{url, outcome.error});
-    systemLog(formatText("Error %@ creating directory %@", {outcome.error.sentence, url.text()}));
+    systemLog({"Error %@ creating directory %@", {outcome.error.sentence, url.text()}});
   }
 }
 

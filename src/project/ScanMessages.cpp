@@ -1,9 +1,18 @@
 #include "project/ScanMessages.h"
 
+#include <utility>
+
 #include "model/Language.h"
-#include "text/Format.h"
 
 namespace glossmill {
+
+ScanMessages::ScanMessages(const Bundle& bundle, SystemLog& systemLog, LogText logText)
+    : m_bundle(bundle),
+      m_systemLog(systemLog),
+      m_logText(std::move(logText)),
+      m_callRejected(localized("Bad formatted LocalizedString in file: %@ ignored\n    %@")),
+      m_entryRejected(localized("Bad formattet String in Localizable.strings ignored\n    %@")),
+      m_entryWithoutMatch(localized("String in Localizable.strings found with no match in source code\n    %@")) {}
 
 void ScanMessages::write(const ScanEvent& event) {
   std::visit([this](const auto& one) { writeEvent(one); }, event);
@@ -15,56 +24,53 @@ void ScanMessages::writeEvent(const NoPackageFound&) {
 
 void ScanMessages::writeEvent(const ProjectFileUnread& event) {
   m_logText(localized("Unable to find .pbxproj file in given project file"));
-  m_systemLog.write(formatText("Error open Xcode project file: %@", {event.error.sentence}));
+  m_systemLog.write({"Error open Xcode project file: %@", {event.error.sentence}});
 }
 
 void ScanMessages::writeEvent(const OldLanguageName& event) {
-  m_logText(
-      formatText(localized("Changing old language description: %@ to ISO639: %@"), {event.directoryName, event.code}));
+  m_logText({localized("Changing old language description: %@ to ISO639: %@"), {event.directoryName, event.code}});
 }
 
 void ScanMessages::writeEvent(const StringsFileFound& event) {
-  m_logText(formatText(localized("Found Localizable.strings for Language: %@"), {event.language.description()}));
+  m_logText({localized("Found Localizable.strings for Language: %@"), {event.language.description()}});
 }
 
 void ScanMessages::writeEvent(const SourceUnread& event) {
-  m_systemLog.write(formatText("Error reading source: %@\n%@", {event.file.text(), event.error.sentence}));
-  m_logText(formatText(localized("Error reading source: %@"), {event.file.text()}));
+  m_systemLog.write({"Error reading source: %@\n%@", {event.file.text(), event.error.sentence}});
+  m_logText({localized("Error reading source: %@"), {event.file.text()}});
 }
 
 void ScanMessages::writeEvent(const CallRejected& event) {
-  m_logText(formatText(localized("Bad formatted LocalizedString in file: %@ ignored\n    %@"),
-                       {event.file.lastPathComponent(), event.excerpt}));
-  m_systemLog.write(formatText("Ignoring bad formatted String: LocalizedString(%@)", {event.excerpt}));
+  m_logText({m_callRejected, {event.file.lastPathComponent(), event.excerpt}});
+  m_systemLog.write({"Ignoring bad formatted String: LocalizedString(%@)", {event.excerpt}});
 }
 
 void ScanMessages::writeEvent(const StringsFileMissing& event) {
-  m_logText(formatText(localized("Missing Localizable.strings for language: %@"), {event.language.description()}));
-  m_systemLog.write(formatText("Missing Localizable.strings for language: %@", {event.language.description()}));
+  m_logText({localized("Missing Localizable.strings for language: %@"), {event.language.description()}});
+  m_systemLog.write({"Missing Localizable.strings for language: %@", {event.language.description()}});
 }
 
 void ScanMessages::writeEvent(const StringsFileBegins& event) {
-  m_systemLog.write(formatText("Parsing file: %@", {event.file.text()}));
+  m_systemLog.write({"Parsing file: %@", {event.file.text()}});
 }
 
 void ScanMessages::writeEvent(const StringsFileUnread& event) {
-  m_logText(formatText(localized("Error reading Localizable.strings: %@"), {event.error.sentence}));
-  m_systemLog.write(formatText("Error reading Localizable.strings: %@", {event.error.sentence}));
+  m_logText({localized("Error reading Localizable.strings: %@"), {event.error.sentence}});
+  m_systemLog.write({"Error reading Localizable.strings: %@", {event.error.sentence}});
 }
 
 void ScanMessages::writeEvent(const LinesCounted& event) {
-  m_systemLog.write(formatText("Lines: %ld", {event.lines}));
+  m_systemLog.write({"Lines: %ld", {event.lines}});
 }
 
 void ScanMessages::writeEvent(const EntryRejected& event) {
-  m_systemLog.write(formatText("Bad formattet String in Localizable.strings ignored\n    %@", {event.text}));
-  m_logText(formatText(localized("Bad formattet String in Localizable.strings ignored\n    %@"), {event.text}));
+  m_systemLog.write({"Bad formattet String in Localizable.strings ignored\n    %@", {event.text}});
+  m_logText({m_entryRejected, {event.text}});
 }
 
 void ScanMessages::writeEvent(const EntryWithoutMatch& event) {
-  m_logText(
-      formatText(localized("String in Localizable.strings found with no match in source code\n    %@"), {event.key}));
-  m_systemLog.write(formatText("String in Localizable.strings found with no match in Code:\n%@", {event.key}));
+  m_logText({m_entryWithoutMatch, {event.key}});
+  m_systemLog.write({"String in Localizable.strings found with no match in Code:\n%@", {event.key}});
 }
 
 }  // namespace glossmill

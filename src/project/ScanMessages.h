@@ -14,11 +14,10 @@ namespace glossmill {
 /// both, in an order of their own. On the thread that reads.
 class ScanMessages {
  public:
-  using LogText = std::function<void(std::string_view)>;
+  using LogText = std::function<void(const Message&)>;
 
   /// The bundle and the log outlive it; `logText` writes to the log window.
-  ScanMessages(const Bundle& bundle, SystemLog& systemLog, LogText logText)
-      : m_bundle(bundle), m_systemLog(systemLog), m_logText(std::move(logText)) {}
+  ScanMessages(const Bundle& bundle, SystemLog& systemLog, LogText logText);
 
   void write(const ScanEvent& event);
 
@@ -43,6 +42,10 @@ class ScanMessages {
   const Bundle& m_bundle;
   SystemLog& m_systemLog;
   LogText m_logText;
+  // The formats of what a project may hold a million of are looked up once.
+  const std::string m_callRejected;
+  const std::string m_entryRejected;
+  const std::string m_entryWithoutMatch;
 };
 
 }  // namespace glossmill

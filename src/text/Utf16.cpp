@@ -1,5 +1,7 @@
 #include "text/Utf16.h"
 
+#include <algorithm>
+
 #include "text/Utf8.h"
 
 namespace glossmill {
@@ -22,6 +24,7 @@ std::size_t utf16Length(std::string_view text) {
 }
 
 std::string clipUtf16(std::string_view text, std::size_t units) {
+  if (asciiPrefix(text.substr(0, units)) == std::min(units, text.size())) return std::string(text.substr(0, units));
   std::size_t taken = 0;
   for (std::size_t at = 0; at < text.size(); ++at) {
     const std::size_t more = unitsOf(text[at]);

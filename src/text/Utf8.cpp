@@ -1,5 +1,6 @@
 #include "text/Utf8.h"
 
+#include <bit>
 #include <optional>
 
 #include "text/ByteBlock.h"
@@ -104,6 +105,16 @@ std::size_t validUtf8Prefix(std::string_view bytes) {
     carried = next.value_or(0);
   }
   return checkOneByOne(bytes, startOfSequence(bytes, at, carried), bytes.size());
+}
+
+std::size_t asciiPrefix(std::string_view bytes) {
+  std::size_t at = 0;
+  for (; at + ByteBlock::kSize <= bytes.size(); at += ByteBlock::kSize) {
+    const ByteBlock::Mask strange = ByteBlock(bytes.data() + at).notAscii();
+    if (strange != 0) return at + static_cast<std::size_t>(std::countr_zero(strange));
+  }
+  while (at < bytes.size() && valueAt(bytes, at) < 0x80) ++at;
+  return at;
 }
 
 bool isValidUtf8(std::string_view bytes) {

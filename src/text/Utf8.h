@@ -13,6 +13,9 @@ inline constexpr std::string_view kReplacementCharacter = "\xEF\xBF\xBD";
 /// U+10FFFF). A sequence cut off by the end of `bytes` is not part of the prefix.
 std::size_t validUtf8Prefix(std::string_view bytes);
 
+/// The length of what stands in front of the first byte that is not ASCII.
+std::size_t asciiPrefix(std::string_view bytes);
+
 bool isValidUtf8(std::string_view bytes);
 
 /// True when `bytes` is the beginning of at least one valid UTF-8 sequence, cut off by its end.

@@ -126,11 +126,28 @@ TEST_F(LogWindow, StartsEmptyWhateverWasLoggedBeforeItWasLoaded) {
   EXPECT_EQ(log.messageCount(), 0U);
 }
 
+TEST_F(LogWindow, KeepsOnlyItsLastMessageWhereItIsToldTo) {
+  AppDelegate application(m_host.parts(), KeptLog::LastMessage);
+  application.logText("first");
+  application.logText({"%@", {"second"}});
+  EXPECT_EQ(application.logWindowController()->logText(), "second\n");
+  EXPECT_EQ(application.logWindowController()->messageCount(), 1U);
+  EXPECT_EQ(window().textView.string(), "second\n");
+}
+
+TEST_F(LogWindow, KeepsNothingWhereItIsToldTo) {
+  AppDelegate application(m_host.parts(), KeptLog::Nothing);
+  application.logText("first");
+  EXPECT_EQ(application.logWindowController()->logText(), "");
+  EXPECT_EQ(application.logWindowController()->messageCount(), 0U);
+  EXPECT_EQ(window().window.showCount, 1);
+}
+
 TEST(LogOfAProject, IsEmptiedWhenAProjectIsOpenedAgain) {
   TestProject test;
   test.addLanguage("de");
   test.open();
-  const std::string first = test.application.logWindowController()->logText();
+  const std::string first(test.application.logWindowController()->logText());
   EXPECT_EQ(first, "Found Localizable.strings for Language: German\n");
   test.open();
   EXPECT_EQ(test.application.logWindowController()->logText(), first);

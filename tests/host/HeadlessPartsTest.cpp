@@ -168,9 +168,9 @@ TEST(HeadlessSystemLog, PassesItsLines) {
   HeadlessSystemLog log;
   log.write("nobody listens");
   std::string seen;
-  log.onLine = [&seen](std::string_view line) { seen += line; };
-  log.write("Error open file");
-  EXPECT_EQ(seen, "Error open file");
+  log.onLine = [&seen](const Message& line) { line.appendTo(seen); };
+  log.write({"Error open file: %@", {"a.m"}});
+  EXPECT_EQ(seen, "Error open file: a.m");
 }
 
 TEST(HeadlessHost, HandsOutItsOwnParts) {

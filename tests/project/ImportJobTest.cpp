@@ -161,7 +161,7 @@ TEST_F(ImportJob, ReportsWhyTheFileCouldNotBeRead) {
 TEST_F(ImportJob, StaysSilentAboutAFileThatCannotBeRead) {
   m_test.host.files.addFile(kImported, kTranslated);
   m_test.host.files.failOpening(kImported, "Permission denied.");
-  const std::string log = m_test.application.logWindowController()->logText();
+  const std::string log(m_test.application.logWindowController()->logText());
   const std::size_t systemLines = m_test.host.systemLog.lines().size();
   importFile();
   EXPECT_EQ(french(), m_before);

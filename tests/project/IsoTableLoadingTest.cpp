@@ -34,7 +34,8 @@ class IsoTableLoading : public testing::Test {
   }
 
   std::string logText() {
-    return application->logWindowController() ? application->logWindowController()->logText() : "";
+    const LogWindowController* log = application->logWindowController();
+    return log ? std::string(log->logText()) : std::string();
   }
 
   TestHost host;

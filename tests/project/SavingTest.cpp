@@ -153,7 +153,7 @@ TEST_F(Saving, ReportsAFileThatCannotBeWrittenAndGoesOnWithTheNextLanguage) {
 }
 
 TEST_F(Saving, TellsOnlyTheSystemLogTheReason) {
-  const std::string before = m_test.application.logWindowController()->logText();
+  const std::string before(m_test.application.logWindowController()->logText());
   m_test.host.files.failWriting(stringsFileOf("de"), "The disk is full.");
   m_test.project().saveProject();
   EXPECT_EQ(m_test.application.logWindowController()->logText(), before);

@@ -67,7 +67,7 @@ void RecordingProgressIndicator::setDoubleValue(double value) {
   inner().setDoubleValue(value);
 }
 
-void RecordingLogTextView::setString(const std::string& text) {
+void RecordingLogTextView::setString(std::string_view text) {
   tell(inQuotes(text));
   inner().setString(text);
 }

@@ -68,7 +68,7 @@ class RecordingProgressIndicator : public RecordingControl<ProgressIndicator> {
 class RecordingLogTextView : public RecordingControl<LogTextView> {
  public:
   using RecordingControl::RecordingControl;
-  void setString(const std::string& text) override;
+  void setString(std::string_view text) override;
 };
 
 class RecordingTranslationTextView : public RecordingControl<TranslationTextView> {

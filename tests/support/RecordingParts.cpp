@@ -207,8 +207,8 @@ void RecordingMenu::addItem(MenuItem item) {
   m_inner.addItem(std::move(item));
 }
 
-void LineRecordingSystemLog::write(std::string_view message) {
-  m_calls.add("system log", message);
+void LineRecordingSystemLog::write(const Message& message) {
+  m_calls.add("system log", message.text());
   m_inner.write(message);
 }
 

@@ -158,7 +158,7 @@ class RecordingMenu : public Menu {
 class LineRecordingSystemLog : public SystemLog {
  public:
   LineRecordingSystemLog(CallRecorder& calls, SystemLog& inner) : m_calls(calls), m_inner(inner) {}
-  void write(std::string_view message) override;
+  void write(const Message& message) override;
 
  private:
   CallRecorder& m_calls;
@@ -179,7 +179,7 @@ class RecordingApplication : public Application {
 class RecordingServices : public ApplicationServices {
  public:
   explicit RecordingServices(CallRecorder& calls) : m_calls(calls) {}
-  void logText(std::string_view text) override { m_calls.add("log", text); }
+  void logText(const Message& message) override { m_calls.add("log", message.text()); }
   void clearLog() override { m_calls.add("application", "clear the log"); }
   void saveRecent(std::string_view path) override;
 

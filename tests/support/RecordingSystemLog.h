@@ -11,9 +11,9 @@ namespace glossmill {
 /// Keeps the diagnostic lines in the order in which they were written.
 class RecordingSystemLog : public SystemLog {
  public:
-  void write(std::string_view message) override {
+  void write(const Message& message) override {
     const std::lock_guard lock(m_mutex);
-    m_lines.emplace_back(message);
+    m_lines.push_back(message.text());
   }
 
   std::vector<std::string> lines() {

@@ -59,5 +59,15 @@ TEST(ClipUtf16, GivesAsManyUnitsAsWereAskedFor) {
   }
 }
 
+TEST(ClipUtf16, TakesAsManyUnitsOfLongTextsWhereverTheyStopBeingAscii) {
+  for (std::size_t place = 0; place <= 90; ++place) {
+    const std::string text = std::string(place, 'a') + "\xC3\xA4" + kShip + std::string(90, 'b');
+    const std::string clipped = clipUtf16(text, 80);
+    EXPECT_EQ(utf16Length(clipped), 80U) << place;
+    const std::size_t same = place == 78 ? clipped.size() - 3 : clipped.size();  // there the ship is cut in half
+    EXPECT_EQ(clipped.substr(0, same), text.substr(0, same)) << place;
+  }
+}
+
 }  // namespace
 }  // namespace glossmill

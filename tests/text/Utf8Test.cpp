@@ -185,6 +185,15 @@ TEST(ValidUtf8, LeavesOutASequenceCutOffByTheEnd) {
   }
 }
 
+TEST(AsciiPrefix, EndsBeforeTheFirstByteThatIsNotAscii) {
+  EXPECT_EQ(asciiPrefix(""), 0U);
+  for (std::size_t place = 0; place < 40; ++place) {
+    const std::string ascii(place, '\x7F');
+    EXPECT_EQ(asciiPrefix(ascii), place);
+    EXPECT_EQ(asciiPrefix(ascii + "\x80" + std::string(20, 'a')), place);
+  }
+}
+
 TEST(CutUtf8Sequence, IsEveryBeginningOfASequence) {
   for (const char32_t codePoint : kSeveralByteBoundaries) {
     const std::string whole = utf8Of(codePoint);

@@ -6,9 +6,9 @@
 namespace glossmill {
 
 /// One call, so that lines of several threads do not mix.
-void StderrSystemLog::write(std::string_view message) {
+void StderrSystemLog::write(const Message& message) {
   std::string line = "glossmill: ";
-  line += message;
+  message.appendTo(line);
   line += '\n';
   std::fwrite(line.data(), 1, line.size(), stderr);
 }

@@ -7,7 +7,7 @@ namespace glossmill {
 /// Diagnostic lines on the standard error stream, each with the program's name before it.
 class StderrSystemLog : public SystemLog {
  public:
-  void write(std::string_view message) override;
+  void write(const Message& message) override;
 };
 
 }  // namespace glossmill

@@ -27,13 +27,13 @@ LogTextEdit::LogTextEdit(QWidget* parent) : QPlainTextEdit(parent) {
 }
 
 /// A text only grows at its end, unless it was emptied before: nothing is emptied and filled again between two calls.
-void LogTextEdit::setString(const std::string& text) {
+void LogTextEdit::setString(std::string_view text) {
   if (text.size() < m_shown) {
     layOut();
     clear();
     m_shown = 0;
   }
-  append(std::string_view(text).substr(m_shown));
+  append(text.substr(m_shown));
   m_shown = text.size();
 }
 

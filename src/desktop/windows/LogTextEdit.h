@@ -17,7 +17,7 @@ class LogTextEdit : public QPlainTextEdit, public LogTextView {
  public:
   explicit LogTextEdit(QWidget* parent = nullptr);
 
-  void setString(const std::string& text) override;
+  void setString(std::string_view text) override;
   /// Selects the next or previous place of the text, round the end; false when there is none.
   bool findNext(const QString& text);
   bool findPrevious(const QString& text);
