@@ -89,7 +89,8 @@ void AppDelegate::openLogWindow() {
   m_logWindowController->showWindow();
 }
 
-/// The stored path serves as the text of a URL: one with a blank in it names nothing, and the panel opens anywhere.
+/// The stored path serves as the text of a URL (rule 56): one with a blank in it names nothing, and the panel opens
+/// anywhere.
 void AppDelegate::recentMenu(std::string_view title) {
   if (m_projectWindowController) m_projectWindowController->openProject(FileUrl::fromText(title));
 }
@@ -112,7 +113,7 @@ void AppDelegate::clearLog() {
   });
 }
 
-/// The limit is tested for equality only: a stored list that is already longer keeps growing.
+/// The limit is tested for equality only (rule 57): a stored list that is already longer keeps growing.
 void AppDelegate::saveRecent(std::string_view path) {
   const auto known = std::find(m_recentArray.begin(), m_recentArray.end(), path);
   if (known != m_recentArray.end()) {

@@ -23,7 +23,7 @@ inline constexpr Color kBlueColor{0, 0, 1};
 inline constexpr Color kBlackColor{0, 0, 0};
 
 // One-way transformers of model values into what tables and labels show. The declared result classes differ from what
-// they really give; they are kept as they were declared.
+// they really give; they are kept as they were declared (rule 62).
 
 /// Status to colour.
 class StatusToTextColorTransformer {

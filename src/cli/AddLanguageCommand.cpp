@@ -18,7 +18,7 @@ struct AddLanguageOptions {
 };
 
 /// False when the project has the language, though the dialog would take it: at the next scan the strings file of the
-/// second directory would go to whatever language was found before.
+/// second directory would go to whatever language was found before (rule 8).
 bool isNewLanguage(const ProjectSession& session, const std::string& code) {
   for (const std::shared_ptr<Language>& language : *session.project().languagesList()) {
     if (language->iso639() != code) continue;

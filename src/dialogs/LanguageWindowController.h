@@ -12,7 +12,8 @@
 namespace glossmill {
 
 /// A sheet that lets the user choose one of the project's languages and, in the form with a check box, say whether only
-/// untranslated strings are wanted. Made once and shown again; it keeps the array that it was given. Main thread.
+/// untranslated strings are wanted. Made once and shown again; it keeps the array that it was given (rule 42). Main
+/// thread.
 class LanguageWindowController {
  public:
   /// `name` is the interface file's.

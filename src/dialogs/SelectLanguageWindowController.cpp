@@ -7,7 +7,8 @@ namespace glossmill {
 
 namespace {
 
-constexpr const char* kFilterSetting = "SelectLangaugeFilterButtonState";  // spelled so in every stored setting
+/// Spelled so in every stored setting (rule 58).
+constexpr const char* kFilterSetting = "SelectLangaugeFilterButtonState";
 
 enum CodeLengths { TwoLetterCodes = 0, ThreeLetterCodes = 1, BothLengths = 2 };
 

@@ -11,7 +11,8 @@
 namespace glossmill {
 
 /// A sheet that lists the languages of the ISO 639 table, narrowed by the length of their codes. A fresh one is made
-/// each time. Languages that the project has are marked, not refused. Main thread.
+/// each time. Languages that the project has are marked, not refused (rule 44).
+/// Main thread.
 class SelectLanguageWindowController {
  public:
   SelectLanguageWindowController(const Host& host, std::shared_ptr<LanguageArray> usedLanguages,

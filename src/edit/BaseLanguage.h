@@ -7,8 +7,8 @@
 
 namespace glossmill {
 
-/// The edit that gives the record its own key as translation. Nothing when it has an entry in the language, be it the
-/// empty text.
+/// The edit that gives the record its own key as translation (rule 46). Nothing when it has an entry in the language,
+/// be it the empty text.
 std::optional<Edit> fillFromKey(const std::shared_ptr<LocalizeString>& record, LanguageCode language);
 
 }  // namespace glossmill

@@ -13,7 +13,7 @@ inline constexpr const char* kExportTextStart = "\n";
 
 /// Appends the block of one record, the `number`th of its list: number line, comment, key and translation, which is
 /// empty without an entry. Nothing is escaped. A record that `scope` leaves out
-/// appends nothing.
+/// appends nothing, but is counted (rule 48).
 void appendExportBlock(std::string& text, const LocalizeString& record, std::int64_t number, LanguageCode language,
                        ExportScope scope);
 

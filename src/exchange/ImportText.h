@@ -9,9 +9,9 @@ namespace glossmill {
 /// Key to translation, as a filled-in export file gives them.
 using ImportTable = std::unordered_map<std::string, std::string>;
 
-/// Reads a filled-in export text: comments go by the rules of strings files, then each block is a line with "---" in
-/// it, one line that is skipped, the key and the translation. An empty translation gives no entry; a later block with
-/// the same key replaces the earlier one. A carriage return stays part of its line.
+/// Reads a filled-in export text: comments go by the rules of strings files (rule 51), then each block is a line with
+/// "---" in it, one line that is skipped, the key and the translation. An empty translation gives no entry; a later
+/// block with the same key replaces the earlier one. A carriage return stays part of its line.
 ImportTable importTable(std::string_view text);
 
 }  // namespace glossmill

@@ -15,7 +15,8 @@ namespace glossmill {
 class IsoTable {
  public:
   /// Reads "three;two;Name" records, each ended by a carriage return. Whatever does not have the right form is left
-  /// out; a later record with the same code replaces the earlier name. Bytes that are not 7-bit ASCII are an error.
+  /// out (rule 47); a later record with the same code replaces the earlier name. Bytes that are not 7-bit ASCII are an
+  /// error.
   static Result<IsoTable> fromCsv(std::string_view bytes);
 
   std::optional<std::string> nameOf(std::string_view code) const;

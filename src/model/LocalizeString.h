@@ -46,7 +46,8 @@ class LocalizeString {
   /// The comments, joined by single line feeds; an empty comment at the front gives no leading line feed.
   std::string comment() const;
 
-  /// Complete when there are exactly as many translations as the project has languages; without a project, Incomplete.
+  /// Complete when there are exactly as many translations as the project has languages (rule 30); without a project,
+  /// Incomplete.
   Status status(const ProjectContext* project) const;
   /// The same as a text, but with the count of what is missing, which is negative when there are too many.
   std::string statusString(const StatusTexts& texts, const ProjectContext* project) const;

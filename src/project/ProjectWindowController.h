@@ -53,8 +53,8 @@ class ProjectWindowController : public ProjectContext,
 
   /// Loads the window on first use and brings it to the front.
   void showWindow();
-  /// Empties the project and the log. What the last scan read of the project file stays, so that a later scan whose
-  /// project file cannot be read tests membership against it.
+  /// Empties the project and the log. What the last scan read of the project file stays (rule 35), so that a later scan
+  /// whose project file cannot be read tests membership against it.
   void clearProject();
   /// Any thread.
   void logText(const Message& message);
@@ -107,7 +107,8 @@ class ProjectWindowController : public ProjectContext,
   /// Phase one. Background.
   void parseFileList(const FileUrl& directory, const ProjectRules& rules);
   void endParseFileList(std::shared_ptr<ScanResult> result);
-  /// Phase two. A cancel noticed in it ends it without a word to the main thread, so the sheet stays up. Background.
+  /// Phase two. A cancel noticed in it ends it without a word to the main thread, so the sheet stays up (rule 29).
+  /// Background.
   void parseLocalizableStringsList(std::shared_ptr<ScanResult> result, const ProjectRules& rules);
   void endParseLocalizeableStringList(ScanResult& result);
 
@@ -144,7 +145,8 @@ class ProjectWindowController : public ProjectContext,
   // ---- Saving and closing: ProjectWindowControllerSaving.cpp ----
 
   bool saveLanguage(const std::shared_ptr<Language>& language);
-  /// Every language is tried; afterwards the project counts as saved, also when one failed. True when all were written.
+  /// Every language is tried; afterwards the project counts as saved, also when one failed (rule 39). True when all
+  /// were written.
   /// A save that was refused is no save: nothing was written, and the project stays as it is.
   bool saveProject();
   void saveProjectButton() { saveProject(); }

@@ -19,8 +19,8 @@ void ProjectWindowController::createBaseLanguage() {
   showChooser(m_baseLanguageWindowController, "LanguageWindowController");
 }
 
-/// A chooser is made on first use and kept, with the array of languages that the project had then. A language that was
-/// added to the project since is in the same array.
+/// A chooser is made on first use and kept, with the array of languages that the project had then (rule 42). A language
+/// that was added to the project since is in the same array.
 void ProjectWindowController::showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name) {
   if (!chooser) chooser = std::make_shared<LanguageWindowController>(m_host, name, languagesList());
   chooser->languageController().rearrange();
@@ -97,7 +97,7 @@ std::shared_ptr<Language> ProjectWindowController::addChosenLanguage(const Langu
   return language;
 }
 
-/// Projects often keep their sources in a directory of their own name below the project directory.
+/// Projects often keep their sources in a directory of their own name below the project directory (rule 45).
 FileUrl ProjectWindowController::newLanguageParent() {
   const FileUrl inner = m_projectDirectory.appending(m_projectDirectory.lastPathComponent());
   return m_host.files.kindOf(inner) == EntryKind::Missing ? m_projectDirectory : inner;

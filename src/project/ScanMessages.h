@@ -11,7 +11,7 @@
 namespace glossmill {
 
 /// Turns what happens in a scan into the messages of the log window and of the system log; many events are told to
-/// both, in an order of their own. On the thread that reads.
+/// both, in an order of their own (rule 59). On the thread that reads.
 class ScanMessages {
  public:
   using LogText = std::function<void(const Message&)>;

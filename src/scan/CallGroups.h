@@ -19,8 +19,8 @@ struct CallPlaces {
 };
 
 /// Goes through the calls of a text group by group: a call, and those whose "(" lies before its ")". Parentheses count
-/// everywhere, also inside string literals. All the groups together cost one pass, however calls are nested, and
-/// a group costs nothing behind its end.
+/// everywhere, also inside string literals (rule 14). All the groups together cost one pass, however calls are nested,
+/// and a group costs nothing behind its end.
 class CallGroups {
  public:
   explicit CallGroups(std::string_view text) : m_text(text), m_finder(text) {}

@@ -17,8 +17,8 @@ namespace glossmill {
 
 /// Finds every "NSLocalizedString", in any case and wherever it stands, takes the parenthesised text after it, and of
 /// that the first two @-literals. A plain text match: comments, preprocessor lines, character literals and escapes mean
-/// nothing to it, and a quote ends a literal also behind a backslash. Linear in the length of the text, however calls
-/// are nested, and a call costs nothing behind its end.
+/// nothing to it (rules 12 to 17), and a quote ends a literal also behind a backslash. Linear in the length of the
+/// text, however calls are nested, and a call costs nothing behind its end.
 class SourceScanner {
  public:
   /// Both outlive it.
@@ -29,7 +29,7 @@ class SourceScanner {
   bool next();
   /// Key and comment of that call, or what it lacks. A cancel that is noticed on the way rejects the call.
   std::variant<SourceString, CallRejection> read();
-  /// The source from the call's name on, 80 UTF-16 units at most.
+  /// The source from the call's name on, 80 UTF-16 units at most (rule 18).
   std::string excerpt() const;
 
  private:

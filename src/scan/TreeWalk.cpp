@@ -72,7 +72,7 @@ void TreeWalk::addLanguage(std::string_view directoryName, const FileUrl& direct
     createLanguage(code, directory);
     return;
   }
-  // The counter only rises, so within one walk the first directory of a language stays its directory.
+  // The counter only rises, so within one walk the first directory of a language stays its directory (rule 7).
   if (m_state.actualDirectoryDepth < known->urlDepth() && known->urlDepth() >= 0) {
     known->setLocalizedStringUrl(directory);
     known->setUrlDepth(m_state.actualDirectoryDepth);

@@ -34,8 +34,8 @@ struct TreeWalkInput {
 };
 
 /// Visits every directory below one: each `.lproj` becomes a language, each `Localizable.strings` goes to the language
-/// made last, whatever directory it lies in, and each member source file to the listener. An entry that is gone, or out
-/// of reach, when the walk comes to it is passed over.
+/// made last, whatever directory it lies in (rule 8), and each member source file to the listener. An entry that is
+/// gone, or out of reach, when the walk comes to it is passed over.
 class TreeWalk {
  public:
   TreeWalk(const TreeWalkInput& input, ScanMemory& state, LanguageArray& languages, TreeWalkListener& listener)
@@ -62,7 +62,7 @@ class TreeWalk {
   DirectoryTrail m_trail;
 };
 
-/// The code for a directory named like a language of the table (English gives en); the name itself otherwise.
+/// The code for a directory named like a language of the table (English gives en, rule 9); the name itself otherwise.
 std::string languageCodeForDirectoryName(const IsoTable& table, std::string_view name);
 
 }  // namespace glossmill

@@ -21,10 +21,10 @@ struct CleanText {
   std::vector<LineEnd> lineEnds;
 };
 
-/// Removes comments from a strings file or an import file, character by character, in the program's own way: a lone
-/// slash outside a string takes the next character with it, a line comment takes its line feed with it, a star inside a
-/// block comment swallows the character after it, and only one character before a quote decides whether it is escaped.
-/// Text may come in pieces of valid UTF-8, cut anywhere.
+/// Removes comments from a strings file or an import file, character by character, in the program's own way (rule 22):
+/// a lone slash outside a string takes the next character with it, a line comment takes its line feed with it, a star
+/// inside a block comment swallows the character after it, and only one character before a quote decides whether it is
+/// escaped. Text may come in pieces of valid UTF-8, cut anywhere.
 class CommentRemover {
  public:
   enum class State { Code, String, BlockComment, LineComment, AfterSlash, AfterStar, SwallowedRest };

@@ -37,9 +37,9 @@ struct StringsFileContent {
   bool canceled = false;       ///< then lines may be missing from the above, but all of them are counted
 };
 
-/// Reads a `Localizable.strings` file that comes in pieces of UTF-8 text. One entry a line: a quoted key, "=", a quoted
-/// value, anything; the first quote ends a key or value also behind a backslash. Values go into an arena. Plain lines
-/// are read where they lie, the others from a copy without comments.
+/// Reads a `Localizable.strings` file that comes in pieces of UTF-8 text. One entry a line (rule 23): a quoted key,
+/// "=", a quoted value, anything; the first quote ends a key or value also behind a backslash (rule 15). Values go into
+/// an arena. Plain lines are read where they lie, the others from a copy without comments.
 class StringsFileParser {
  public:
   StringsFileParser(KeyReader& keys, TextArena& values, const CancelFlag& canceled);

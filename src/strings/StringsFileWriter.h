@@ -11,7 +11,7 @@ namespace glossmill {
 
 /// The texts of the `Localizable.strings` files of many languages: an empty line, then for each record with an entry in
 /// the language its comments in one block, `"key" = "translation"` without a semicolon, and an empty line. Everything
-/// stands as it is stored: nothing is escaped. No records give a single line feed.
+/// stands as it is stored: nothing is escaped (rule 37). No records give a single line feed.
 class StringsFileTexts : public LanguageTexts {
  public:
   /// Takes over what the texts of these languages need; the translations themselves stay where they are.
