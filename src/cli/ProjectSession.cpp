@@ -66,7 +66,7 @@ AppDelegate* keptDelegate(const Host& host, KeptLog keptLog) {
 
 }  // namespace
 
-ProjectSession::ProjectSession(Console& console, Options options)
+ProjectSession::ProjectSession(Console& console, const Options& options)
     : m_console(console),
       m_options(options),
       m_files(m_host.files, options.files),

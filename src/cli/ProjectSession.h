@@ -27,7 +27,7 @@ class ProjectSession {
   };
 
   /// `console` outlives the session.
-  ProjectSession(Console& console, Options options);
+  ProjectSession(Console& console, const Options& options);
 
   /// Opens the project in the directory and waits for the scan. Anything but Fine has been explained on the console.
   ExitCode open(const std::string& directory);

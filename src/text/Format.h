@@ -55,7 +55,7 @@ void appendFormatted(Text& text, std::string_view format, std::initializer_list<
       format.remove_prefix(placeLength);
       continue;
     }
-    text.push_back('%');
+    text.append(std::string_view("%"));
     format.remove_prefix(format.starts_with("%%") ? 2 : 1);
   }
 }

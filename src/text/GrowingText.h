@@ -12,7 +12,6 @@ namespace glossmill {
 class GrowingText {
  public:
   void append(std::string_view text);
-  void push_back(char byte) { append({&byte, 1}); }
   /// Keeps the memory.
   void clear() { m_size = 0; }
 

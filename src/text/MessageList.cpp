@@ -4,7 +4,7 @@ namespace glossmill {
 
 void MessageList::add(const Message& message) {
   message.appendTo(m_text);
-  m_text.push_back('\n');
+  m_text.append("\n");
   m_ends.push_back(m_text.size());
 }
 

@@ -18,7 +18,7 @@ TEST(GrowingText, KeepsWhatWasAddedThroughManyMoves) {
   std::string expected;
   for (int number = 0; number < 100'000; ++number) {
     text.append(std::to_string(number));
-    text.push_back(' ');
+    text.append(" ");
     expected.append(std::to_string(number)).push_back(' ');
   }
   EXPECT_EQ(text.view(), expected);
