@@ -33,19 +33,18 @@ QString joinedLiterals(const QString& literals) {
   return joined.replace(QLatin1String("\\n"), QLatin1String("\n"));
 }
 
-/// Every text that the sources look up by calling one of these.
+/// Every text that the sources look up by calling one of these, and every title of a column.
 QStringList keysOfSources() {
   static const QRegularExpression kCall(
       QStringLiteral("(?:localized|localizedString|beginLongTimeSheet)\\(\\s*((?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+)\\)"));
-  static const QRegularExpression kTitles(QStringLiteral("for \\(const char\\* key : \\{([^}]*)\\}"));
+  static const QRegularExpression kTitles(QStringLiteral("(\"[^\"]+\"), \\d+, "));
   QStringList keys;
   for (const QString& file : filesBelow(QStringLiteral(GLOSSMILL_SOURCES), QStringLiteral("*.cpp"))) {
     if (file.contains(QLatin1String("/cli/"))) continue;
     const QString text = contents(file);
     for (const auto& match : kCall.globalMatch(text)) keys.append(joinedLiterals(match.captured(1)));
-    for (const auto& match : kTitles.globalMatch(text)) {
-      for (const QString& title : match.captured(1).split(QLatin1Char(','))) keys.append(joinedLiterals(title));
-    }
+    if (!file.endsWith(QLatin1String("Columns.cpp"))) continue;
+    for (const auto& match : kTitles.globalMatch(text)) keys.append(joinedLiterals(match.captured(1)));
   }
   return keys;
 }

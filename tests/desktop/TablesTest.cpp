@@ -16,7 +16,7 @@ using Records = ArrayController<std::string>;
 /// A table of texts that counts how often a cell was read.
 class TextModel : public RecordTableModel {
  public:
-  explicit TextModel(const Records& records) : RecordTableModel({QStringLiteral("Text")}), m_records(records) {}
+  explicit TextModel(const Records& records) : RecordTableModel({{QStringLiteral("Text"), 100}}), m_records(records) {}
 
   mutable int reads = 0;
 

@@ -1,6 +1,6 @@
 #include "desktop/sheets/LanguageWindowInterface.h"
 
-#include "desktop/windows/LanguagePane.h"
+#include "desktop/tables/LanguageColumns.h"
 #include "ui_ExportLanguageWindowController.h"
 #include "ui_LanguageWindowController.h"
 
@@ -20,11 +20,10 @@ LanguageWindowInterface::Widgets loadLanguageWindowWidgets(std::string_view name
 
 LanguageWindowInterface::LanguageWindowInterface(Widgets widgets, LanguageWindowController& dialog,
                                                  ProjectWindowController& project, const Bundle& bundle)
-    : m_model(dialog.languageController(), project, bundle),
+    : m_model(dialog.languageController(), languageColumns(project), bundle),
       m_sheet({std::move(widgets.sheet), &widgets.table, &widgets.done, &widgets.cancel}),
       m_table(widgets.table, m_model, std::make_unique<ControllerRows<Language>>(dialog.languageController())),
       m_check(widgets.check ? std::make_unique<WidgetCheckButton>(*widgets.check) : nullptr) {
-  setUpLanguageColumns(widgets.table);
   dialog.languageController().addObserver([this](ArrayChange change) { m_table.change(change); });
   QObject::connect(&widgets.done, &QPushButton::clicked, &m_table, [&dialog] { dialog.done(); });
   QObject::connect(&widgets.cancel, &QPushButton::clicked, &m_table, [&dialog] { dialog.cancel(); });

@@ -4,10 +4,11 @@
 
 #include "desktop/host/WidgetControls.h"
 #include "desktop/sheets/SheetContent.h"
-#include "desktop/tables/LanguageTableModel.h"
+#include "desktop/tables/ColumnTableModel.h"
 #include "desktop/tables/RecordTable.h"
 #include "dialogs/LanguageWindowController.h"
 #include "platform/InterfaceFiles.h"
+#include "project/ProjectWindowController.h"
 
 namespace glossmill {
 
@@ -29,7 +30,7 @@ class LanguageWindowInterface : public LoadedInterface {
   LanguageWindowOutlets outlets() { return {&m_sheet, &m_table, m_check.get()}; }
 
  private:
-  LanguageTableModel m_model;
+  ColumnTableModel<Language> m_model;
   SheetContent m_sheet;
   RecordTable m_table;
   std::unique_ptr<WidgetCheckButton> m_check;

@@ -1,10 +1,9 @@
 #include "desktop/sheets/SelectLanguageInterface.h"
 
-#include <QHeaderView>
-
 #include "app/DisplayTransformers.h"
 #include "desktop/host/QtText.h"
 #include "desktop/look/Icons.h"
+#include "desktop/tables/IsoColumns.h"
 #include "desktop/tables/ListKeys.h"
 #include "text/Format.h"
 
@@ -13,7 +12,7 @@ namespace glossmill {
 SelectLanguageInterface::SelectLanguageInterface(SelectLanguageWindowController& dialog, const Bundle& bundle)
     : m_dialog(dialog),
       m_bundle(bundle),
-      m_model(dialog.languageController(), bundle),
+      m_model(dialog.languageController(), isoColumns(bundle), bundle),
       m_sheet([this] {
         auto widget = std::make_unique<QWidget>();
         m_widgets.setupUi(widget.get());
@@ -21,10 +20,6 @@ SelectLanguageInterface::SelectLanguageInterface(SelectLanguageWindowController&
       }()),
       m_table(*m_widgets.tableView, m_model, std::make_unique<ControllerRows<Language>>(dialog.languageController())),
       m_isoPopUp(*m_widgets.isoPopUpButton) {
-  QHeaderView& header = *m_widgets.tableView->horizontalHeader();
-  header.resizeSection(IsoTableModel::Name, 260);
-  header.resizeSection(IsoTableModel::Code, 70);
-  header.setStretchLastSection(true);
   m_widgets.searchField->addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
   new ListKeys(*m_widgets.searchField, *m_widgets.tableView);
   connectControls();

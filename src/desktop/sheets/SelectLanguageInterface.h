@@ -2,7 +2,7 @@
 
 #include "desktop/host/WidgetControls.h"
 #include "desktop/sheets/SheetContent.h"
-#include "desktop/tables/IsoTableModel.h"
+#include "desktop/tables/ColumnTableModel.h"
 #include "desktop/tables/RecordTable.h"
 #include "dialogs/SelectLanguageWindowController.h"
 #include "platform/InterfaceFiles.h"
@@ -25,7 +25,7 @@ class SelectLanguageInterface : public LoadedInterface {
 
   SelectLanguageWindowController& m_dialog;
   const Bundle& m_bundle;
-  IsoTableModel m_model;
+  ColumnTableModel<Language> m_model;
   Ui::SelectLanguageWindowController m_widgets;
   SheetContent m_sheet;
   RecordTable m_table;

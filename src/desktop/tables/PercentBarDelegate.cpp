@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QPainter>
 
-#include "desktop/tables/LanguageTableModel.h"
+#include "desktop/tables/RecordTableModel.h"
 
 namespace glossmill {
 
@@ -37,7 +37,7 @@ void PercentBarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
   initStyleOption(&cell, index);
   cell.text.clear();
   QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
-  const QVariant percent = index.data(LanguageTableModel::kPercentRole);
+  const QVariant percent = index.data(RecordTableModel::kPercentRole);
   const QRectF bar = barOf(cell.rect);
   if (!percent.isValid() || bar.width() < kBarHeight) return;
   const bool selected = cell.state.testFlag(QStyle::State_Selected);

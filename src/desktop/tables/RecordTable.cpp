@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "desktop/tables/CellDelegate.h"
+#include "desktop/tables/PercentBarDelegate.h"
 
 namespace glossmill {
 
@@ -28,6 +29,26 @@ void setUp(QTableView& view) {
   view.horizontalHeader()->setHighlightSections(false);
 }
 
+/// The last column keeps an edge to its left that can be dragged.
+void takeTheRest(QHeaderView& header, int column) {
+  if (column + 1 == header.count()) {
+    header.setStretchLastSection(true);
+  } else {
+    header.setSectionResizeMode(column, QHeaderView::Stretch);
+  }
+}
+
+void setUpColumns(QTableView& view, const std::vector<ColumnHead>& heads) {
+  QHeaderView& header = *view.horizontalHeader();
+  int column = 0;
+  for (const ColumnHead& head : heads) {
+    header.resizeSection(column, head.width);
+    if (head.fit == ColumnFit::Rest) takeTheRest(header, column);
+    if (head.isBar) view.setItemDelegateForColumn(column, new PercentBarDelegate(&view));
+    ++column;
+  }
+}
+
 }  // namespace
 
 RecordTable::RecordTable(QTableView& view, RecordTableModel& model, std::unique_ptr<RowSource> rows,
@@ -35,6 +56,7 @@ RecordTable::RecordTable(QTableView& view, RecordTableModel& model, std::unique_
     : m_view(view), m_model(model), m_rows(std::move(rows)), m_isJobRunning(std::move(isJobRunning)) {
   setUp(view);
   view.setModel(&model);
+  setUpColumns(view, model.heads());
   view.installEventFilter(this);
   connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { selectionChanged(); });
   connect(view.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { rememberTop(); });

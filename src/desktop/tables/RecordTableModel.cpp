@@ -3,13 +3,14 @@
 namespace glossmill {
 
 int RecordTableModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(m_titles.size());
+  return parent.isValid() ? 0 : static_cast<int>(m_heads.size());
 }
 
 QVariant RecordTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal) return {};
+  const auto column = static_cast<std::size_t>(section);
+  if (orientation != Qt::Horizontal || column >= m_heads.size()) return {};
   if (role == Qt::TextAlignmentRole) return static_cast<int>(Qt::AlignLeading | Qt::AlignVCenter);
-  return role == Qt::DisplayRole ? m_titles.value(section) : QVariant();
+  return role == Qt::DisplayRole ? m_heads[column].title : QVariant();
 }
 
 QVariant RecordTableModel::data(const QModelIndex& index, int role) const {

@@ -1,15 +1,32 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <QStringList>
+#include <QString>
+#include <utility>
+#include <vector>
+
+#include "desktop/tables/Column.h"
 
 namespace glossmill {
 
-/// A thin window on rows that are arranged elsewhere: it holds their number and the column titles, and asks for the
-/// text of a cell when that cell is drawn.
+/// What a table knows of a column before it asks for a cell.
+struct ColumnHead {
+  QString title;
+  int width = 0;  ///< pixels
+  ColumnFit fit = ColumnFit::Width;
+  bool isBar = false;  ///< drawn as a bar, by the role of percentages
+};
+
+/// A thin window on rows that are arranged elsewhere: it holds their number and the heads of the columns, and asks for
+/// the text of a cell when that cell is drawn.
 class RecordTableModel : public QAbstractTableModel {
  public:
-  explicit RecordTableModel(QStringList titles) : m_titles(std::move(titles)) {}
+  /// The role of a whole number from 0 to 100, for the bar of a column.
+  static constexpr int kPercentRole = Qt::UserRole;
+
+  explicit RecordTableModel(std::vector<ColumnHead> heads) : m_heads(std::move(heads)) {}
+
+  const std::vector<ColumnHead>& heads() const { return m_heads; }
 
   int rowCount(const QModelIndex& parent = QModelIndex()) const override { return parent.isValid() ? 0 : m_rows; }
   int columnCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -30,7 +47,7 @@ class RecordTableModel : public QAbstractTableModel {
   virtual QVariant cell(std::size_t row, int column, int role) const = 0;
 
  private:
-  QStringList m_titles;
+  const std::vector<ColumnHead> m_heads;
   int m_rows = 0;
   bool m_held = false;
 };

@@ -2,8 +2,9 @@
 
 #include <QLabel>
 
-#include "desktop/tables/LanguageTableModel.h"
+#include "desktop/tables/ColumnTableModel.h"
 #include "desktop/tables/RecordTable.h"
+#include "project/ProjectWindowController.h"
 
 namespace glossmill {
 
@@ -22,11 +23,8 @@ class LanguagePane {
   QLabel& m_count;
   ProjectWindowController& m_project;
   const Bundle& m_bundle;
-  LanguageTableModel m_model;
+  ColumnTableModel<Language> m_model;
   RecordTable m_table;
 };
-
-/// Widths and the bar of a table of languages.
-void setUpLanguageColumns(QTableView& view);
 
 }  // namespace glossmill

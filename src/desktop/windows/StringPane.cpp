@@ -1,34 +1,21 @@
 #include "desktop/windows/StringPane.h"
 
-#include <QHeaderView>
-
 #include "desktop/host/QtText.h"
 #include "desktop/tables/ListKeys.h"
+#include "desktop/tables/StringColumns.h"
 #include "text/Format.h"
 
 namespace glossmill {
-
-namespace {
-
-constexpr int kColumnWidths[] = {245, 225, 126, 88, 50, 80};
-
-void setUpColumns(QHeaderView& header) {
-  for (int column = 0; column < header.count(); ++column) header.resizeSection(column, kColumnWidths[column]);
-  header.setStretchLastSection(true);
-}
-
-}  // namespace
 
 StringPane::StringPane(const StringPaneWidgets& widgets, ProjectWindowController& project, const Bundle& bundle)
     : m_widgets(widgets),
       m_project(project),
       m_bundle(bundle),
-      m_model(project, bundle),
+      m_model(project.stringController(), stringColumns(project), bundle),
       m_table(widgets.table, m_model, std::make_unique<ControllerRows<LocalizeString>>(project.stringController()),
               [&project] { return project.longJobRunning(); }),
       m_filter(widgets.filter),
       m_search(project) {
-  setUpColumns(*widgets.table.horizontalHeader());
   new ListKeys(widgets.search, widgets.table);
   QObject::connect(&widgets.filter, &QComboBox::activated, &m_table, [this] { m_project.changeStringFilter(); });
   QObject::connect(&widgets.search, &QLineEdit::textChanged, &m_table,

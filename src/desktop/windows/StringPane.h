@@ -5,8 +5,9 @@
 
 #include "app/StringSearch.h"
 #include "desktop/host/WidgetControls.h"
+#include "desktop/tables/ColumnTableModel.h"
 #include "desktop/tables/RecordTable.h"
-#include "desktop/tables/StringTableModel.h"
+#include "project/ProjectWindowController.h"
 
 namespace glossmill {
 
@@ -39,7 +40,7 @@ class StringPane {
   StringPaneWidgets m_widgets;
   ProjectWindowController& m_project;
   const Bundle& m_bundle;
-  StringTableModel m_model;
+  ColumnTableModel<LocalizeString> m_model;
   RecordTable m_table;
   WidgetPopUpButton m_filter;
   StringSearch m_search;

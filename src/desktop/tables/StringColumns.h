@@ -1,0 +1,13 @@
+#pragma once
+
+#include <vector>
+
+#include "desktop/tables/Column.h"
+#include "project/ProjectWindowController.h"
+
+namespace glossmill {
+
+/// The columns of the project's strings. `project` outlives them.
+std::vector<Column<LocalizeString>> stringColumns(const ProjectWindowController& project);
+
+}  // namespace glossmill
