@@ -20,7 +20,7 @@ constexpr int kMostSavesASecond = 1000;
 /// The first free name for a save of this second.
 std::string numbered(const std::string& time, int number) {
   if (number == 1) return time;
-  char digits[8];
+  char digits[16];
   std::snprintf(digits, sizeof digits, "-%03d", number);
   return time + digits;
 }

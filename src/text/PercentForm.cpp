@@ -6,7 +6,7 @@ namespace glossmill {
 
 namespace {
 
-constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+constexpr std::string_view kFormDigits = "0123456789ABCDEF";
 constexpr std::string_view kEmpty = "%";
 
 bool standsAsItIs(char byte) {
@@ -23,8 +23,8 @@ std::optional<char> taken(std::string_view& word) {
     return first;
   }
   if (first != '%' || word.size() < 3) return std::nullopt;
-  const std::size_t high = kHexDigits.find(word[1]);
-  const std::size_t low = kHexDigits.find(word[2]);
+  const std::size_t high = kFormDigits.find(word[1]);
+  const std::size_t low = kFormDigits.find(word[2]);
   if (high == std::string_view::npos || low == std::string_view::npos) return std::nullopt;
   word.remove_prefix(3);
   return static_cast<char>(high << 4 | low);
@@ -42,8 +42,8 @@ std::string percentForm(std::string_view text) {
     }
     const auto value = static_cast<unsigned char>(byte);
     word += '%';
-    word += kHexDigits[value >> 4];
-    word += kHexDigits[value & 0xF];
+    word += kFormDigits[value >> 4];
+    word += kFormDigits[value & 0xF];
   }
   return word;
 }
