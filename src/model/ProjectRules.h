@@ -30,6 +30,7 @@ struct ScanMemory {
   std::optional<std::string> projectFileData;  ///< nothing until a project file was read
   std::int64_t actualDirectoryDepth = 0;       ///< directories entered so far; deliberately (rule 6) never lowered
   std::shared_ptr<Language> actualLanguage;    ///< the language made last
+  FileUrl actualParseFileName;                 ///< the source that was begun last
 };
 
 enum class ScanEnd { Complete, Canceled };

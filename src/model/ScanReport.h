@@ -49,20 +49,4 @@ class ScanReport {
   std::vector<FileFindings> m_files;
 };
 
-/// Counts what it hears and passes it on.
-class ReportingScanListener : public ScanListener {
- public:
-  /// Both outlive it.
-  ReportingScanListener(ScanReport& report, ScanListener& next) : m_report(report), m_next(next) {}
-
-  void happened(const ScanEvent& event) override {
-    m_report.add(event);
-    m_next.happened(event);
-  }
-
- private:
-  ScanReport& m_report;
-  ScanListener& m_next;
-};
-
 }  // namespace glossmill

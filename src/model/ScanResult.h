@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "model/Language.h"
-#include "model/ScanReport.h"
 #include "model/StringListBuilder.h"
 #include "platform/FileUrl.h"
 
@@ -15,7 +14,6 @@ struct ScanResult {
   std::vector<FileUrl> fileList;  ///< scanned sources, in the order of the walk
   StringListBuilder stringList;
   std::shared_ptr<LanguageArray> languagesList = std::make_shared<LanguageArray>();
-  ScanReport report;
 };
 
 }  // namespace glossmill

@@ -10,6 +10,7 @@ ProjectWindowController::ProjectWindowController(const Host& host, ApplicationSe
       m_application(application),
       m_statusTexts(host.bundle),
       m_scanMessages(host.bundle, host.systemLog, [this](const Message& message) { logText(message); }),
+      m_longJob(host.sheets, [this] { return m_host.interfaces.loadLongTimeSheet(*this); }),
       m_rules(&projectRules(m_options.rules)) {
   m_stringController.addObserver([this](ArrayChange change) {
     if (change == ArrayChange::Content) m_counts.invalidate();

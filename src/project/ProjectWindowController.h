@@ -18,11 +18,11 @@
 #include "model/ProjectContext.h"
 #include "model/ProjectOptions.h"
 #include "model/ProjectRules.h"
-#include "model/ScanResult.h"
+#include "model/ScanReport.h"
 #include "model/StatusTexts.h"
 #include "model/TranslationCounts.h"
-#include "platform/CancelFlag.h"
 #include "platform/Host.h"
+#include "project/LongJob.h"
 #include "project/ReadFiles.h"
 #include "project/SaveReport.h"
 #include "project/ScanMessages.h"
@@ -31,14 +31,14 @@
 namespace glossmill {
 
 class ImportPlan;
+class ScanRun;
 
 /// Owns the open project for its whole life and offers its operations: the rules are in modules, this class asks the
 /// host, calls one module, adopts the result and tells the window. Main thread, but for the operations marked
 /// "background".
 class ProjectWindowController : public ProjectContext,
                                 public LanguageWindowControllerDelegate,
-                                public SelectLanguageWindowControllerDelegate,
-                                private ScanListener {
+                                public SelectLanguageWindowControllerDelegate {
  public:
   using StringController = ArrayController<LocalizeString>;
   using LanguageController = ArrayController<Language>;
@@ -72,7 +72,7 @@ class ProjectWindowController : public ProjectContext,
   /// Shared: a chooser keeps the array that it was given.
   const std::shared_ptr<LanguageArray>& languagesList() const { return m_languageController.content(); }
   const IsoTable& iso639Dict() const { return m_iso639Dict; }
-  const FileUrl& actualParseFileName() const { return m_actualParseFileName; }
+  const FileUrl& actualParseFileName() const { return m_scanMemory.actualParseFileName; }
   const std::shared_ptr<Language>& actualLanguage() const { return m_scanMemory.actualLanguage; }
   std::int64_t actualDirectoryDepth() const { return m_scanMemory.actualDirectoryDepth; }
   StringController& stringController() { return m_stringController; }
@@ -83,7 +83,7 @@ class ProjectWindowController : public ProjectContext,
   /// What of the open project the system did not give, or not completely.
   const std::vector<UnreadPlace>& unread() const { return m_unread; }
   /// Whether the long-time sheet was begun and not yet closed.
-  bool longJobRunning() const { return m_longJobRunning; }
+  bool longJobRunning() const { return m_longJob.isRunning(); }
 
   // ---- Opening and the long-job pattern: ProjectWindowControllerOpening.cpp ----
 
@@ -97,20 +97,20 @@ class ProjectWindowController : public ProjectContext,
   const ProjectOptions& projectOptions() const { return m_options; }
   bool parseProject();
   /// The sheet's cancel button.
-  void longTimeCanceled() { m_longTimeCanceled.set(true); }
+  void longTimeCanceled() { m_longJob.cancel(); }
   /// Closes the sheet. Also called when the sheet has ended, so it is harmless on a closed one.
-  void didEndLongTimeSheetReturnCodeContextInfo();
-  void updateLongTerm(double value);
+  void didEndLongTimeSheetReturnCodeContextInfo() { m_longJob.end(); }
+  void updateLongTerm(double value) { m_longJob.setProgress(value); }
 
   // ---- The scan's phases: ProjectWindowControllerScan.cpp ----
 
   /// Phase one. Background.
-  void parseFileList(const FileUrl& directory, const ProjectRules& rules);
-  void endParseFileList(std::shared_ptr<ScanResult> result);
+  void parseFileList(const FileUrl& directory, std::shared_ptr<ScanRun> scan);
+  void endParseFileList(std::shared_ptr<ScanRun> scan);
   /// Phase two. A cancel noticed in it ends it without a word to the main thread, so the sheet stays up (rule 29).
   /// Background.
-  void parseLocalizableStringsList(std::shared_ptr<ScanResult> result, const ProjectRules& rules);
-  void endParseLocalizeableStringList(ScanResult& result);
+  void parseLocalizableStringsList(std::shared_ptr<ScanRun> scan);
+  void endParseLocalizeableStringList(ScanRun& scan);
 
   // ---- Filter, status and navigation: ProjectWindowControllerEditing.cpp ----
 
@@ -205,13 +205,9 @@ class ProjectWindowController : public ProjectContext,
   void runOkAlert(const std::string& message, std::optional<AlertRequest::Cause> cause = std::nullopt);
 
   void startScan(const FileUrl& directory, const ProjectOptions& options);
-  void beginLongTimeSheet(std::string_view titleKey);
-  void makeIndicatorIndeterminate();
-  void makeIndicatorCounting();
-
-  ScanInput scanInput(ScanListener& listener);
-  void happened(const ScanEvent& event) override;
-  void installResult(ScanResult& result);
+  void beginLongJob(std::string_view titleKey);
+  void beginCountingJob(std::string_view titleKey);
+  void installResult(ScanRun& scan);
 
   void holdBackCompleteStrings();
   void giveBackStrings();
@@ -240,9 +236,7 @@ class ProjectWindowController : public ProjectContext,
   ScanMessages m_scanMessages;
 
   Interface<ProjectWindowOutlets> m_window;
-  Interface<LongTimeSheetOutlets> m_longTime;
-  CancelFlag m_longTimeCanceled;
-  bool m_longJobRunning = false;
+  LongJob m_longJob;
 
   std::shared_ptr<SelectLanguageWindowController> m_selectLanguageWindowController;
   std::shared_ptr<SelectLanguageWindowController> m_endedSelectLanguageWindowController;
@@ -261,11 +255,9 @@ class ProjectWindowController : public ProjectContext,
   ProjectOptions m_options;
   const ProjectRules* m_rules;  ///< those of the options
   IsoTable m_iso639Dict;
-  FileUrl m_actualParseFileName;
   ScanMemory m_scanMemory;  ///< written by phase one
   ScanReport m_scanReport;
-  ReadFiles m_readFiles;  ///< written by phase two
-  WatchedReading m_reading{m_host.files, m_host.saves};
+  ReadFiles m_readFiles;
   std::vector<UnreadPlace> m_unread;  ///< of the open project
   SaveReport m_lastSave;
   ImportReport m_importReport;

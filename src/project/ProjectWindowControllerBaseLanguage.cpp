@@ -5,8 +5,7 @@ namespace glossmill {
 
 void ProjectWindowController::languageFromBaseLanguage(std::shared_ptr<Language> language) {
   if (!language) return;
-  beginLongTimeSheet("Creating base language...");
-  makeIndicatorCounting();
+  beginCountingJob("Creating base language...");
   m_window.outlets.stringTableView->beginUpdates();
   m_edits.beginEdits();
   m_host.threads.performInBackground([this, language] { bgLanguageFromBaseLanguage(*language); });
@@ -16,7 +15,7 @@ void ProjectWindowController::languageFromBaseLanguage(std::shared_ptr<Language>
 void ProjectWindowController::bgLanguageFromBaseLanguage(const Language& language) {
   double progress = 0;
   for (const std::shared_ptr<LocalizeString>& record : stringList()) {
-    if (m_longTimeCanceled.isSet()) break;
+    if (m_longJob.canceled().isSet()) break;
     ++progress;
     onMainThread([&] {
       updateLongTerm(progress);

@@ -7,8 +7,7 @@ namespace glossmill {
 void ProjectWindowController::exportLanguageToFileAllStrings(std::shared_ptr<Language> language, const FileUrl& file,
                                                              ExportScope scope) {
   if (!language || file.empty()) return;
-  beginLongTimeSheet("Exporting strings...");
-  makeIndicatorCounting();
+  beginCountingJob("Exporting strings...");
   m_host.threads.performInBackground([this, language, file, scope] { bgExportLanguage(*language, file, scope); });
 }
 
@@ -17,7 +16,7 @@ void ProjectWindowController::bgExportLanguage(const Language& language, const F
   std::optional<std::string> text(std::in_place, format.start);
   std::int64_t counter = 0;
   for (const std::shared_ptr<LocalizeString>& record : stringList()) {
-    if (m_longTimeCanceled.isSet()) {
+    if (m_longJob.canceled().isSet()) {
       text.reset();
       break;
     }

@@ -7,8 +7,7 @@ namespace glossmill {
 
 void ProjectWindowController::importLanguageFromFile(std::shared_ptr<Language> language, const FileUrl& file) {
   if (!language || file.empty()) return;
-  beginLongTimeSheet("Importing strings...");
-  makeIndicatorCounting();
+  beginCountingJob("Importing strings...");
   m_window.outlets.stringTableView->beginUpdates();
   m_edits.beginEdits();
   m_host.threads.performInBackground([this, language, file] { bgImportLanguage(*language, file); });
@@ -31,7 +30,7 @@ void ProjectWindowController::bgImportLanguage(const Language& language, const F
 bool ProjectWindowController::applyImport(const ImportPlan& plan, ImportReport& report) {
   double counter = 0;
   for (const std::shared_ptr<LocalizeString>& record : stringList()) {
-    if (m_longTimeCanceled.isSet()) return false;
+    if (m_longJob.canceled().isSet()) return false;
     ++counter;
     onMainThread([&] {
       updateLongTerm(counter);

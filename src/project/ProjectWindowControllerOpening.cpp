@@ -1,5 +1,6 @@
 #include "project/ProjectWindowController.h"
 #include "project/RuleSets.h"
+#include "project/ScanRun.h"
 
 namespace glossmill {
 
@@ -33,44 +34,23 @@ void ProjectWindowController::startScan(const FileUrl& directory, const ProjectO
 }
 
 bool ProjectWindowController::parseProject() {
-  beginLongTimeSheet("Parsing project directory...");
-  makeIndicatorIndeterminate();
-  m_host.threads.performInBackground(
-      [this, directory = m_projectDirectory, &rules = *m_rules] { parseFileList(directory, rules); });
+  beginLongJob("Parsing project directory...");
+  m_longJob.showActivity();
+  const auto scan = std::make_shared<ScanRun>(
+      *m_rules, ScanRun::Parts{m_host.files, m_host.saves, m_iso639Dict, m_longJob.canceled(), m_scanMessages});
+  m_host.threads.performInBackground([this, scan, directory = m_projectDirectory] { parseFileList(directory, scan); });
   return true;
 }
 
-void ProjectWindowController::beginLongTimeSheet(std::string_view titleKey) {
-  if (!m_longTime.loaded) m_longTime = m_host.interfaces.loadLongTimeSheet(*this);
-  m_longTime.outlets.longTimeSheetTitle->setStringValue(localized(titleKey));
-  m_host.sheets.beginSheet(*m_longTime.outlets.longTimeSheet, [this] { didEndLongTimeSheetReturnCodeContextInfo(); });
-  m_longTimeCanceled.set(false);
-  m_longJobRunning = true;
+/// Ending the sheet comes back as its did-end call.
+void ProjectWindowController::beginLongJob(std::string_view titleKey) {
+  m_longJob.begin(localized(titleKey), [this] { didEndLongTimeSheetReturnCodeContextInfo(); });
 }
 
-void ProjectWindowController::makeIndicatorIndeterminate() {
-  m_longTime.outlets.longTimeIndicator->setIndeterminate(true);
-  m_longTime.outlets.longTimeIndicator->startAnimation();
-}
-
-void ProjectWindowController::makeIndicatorCounting() {
-  ProgressIndicator& indicator = *m_longTime.outlets.longTimeIndicator;
-  indicator.setIndeterminate(false);
-  indicator.setMinValue(0.0);
-  indicator.setMaxValue(static_cast<double>(stringList().size()));
-  indicator.setDoubleValue(0.0);
-}
-
-/// Ending the sheet comes back here as its did-end call.
-void ProjectWindowController::didEndLongTimeSheetReturnCodeContextInfo() {
-  m_longJobRunning = false;
-  if (!m_longTime.loaded) return;
-  m_longTime.outlets.longTimeSheet->orderOut();
-  m_host.sheets.endSheet(*m_longTime.outlets.longTimeSheet);
-}
-
-void ProjectWindowController::updateLongTerm(double value) {
-  m_longTime.outlets.longTimeIndicator->setDoubleValue(value);
+/// A job that goes from record to record.
+void ProjectWindowController::beginCountingJob(std::string_view titleKey) {
+  beginLongJob(titleKey);
+  m_longJob.showProgress(stringList().size());
 }
 
 }  // namespace glossmill

@@ -1,62 +1,43 @@
 #include "project/ProjectWindowController.h"
+#include "project/ScanRun.h"
 
 namespace glossmill {
 
-ScanInput ProjectWindowController::scanInput(ScanListener& listener) {
-  return {m_reading, m_iso639Dict, m_longTimeCanceled, listener};
+void ProjectWindowController::parseFileList(const FileUrl& directory, std::shared_ptr<ScanRun> scan) {
+  scan->parseFileList(directory, m_scanMemory);
+  onMainThread([&] { endParseFileList(scan); });
 }
 
-void ProjectWindowController::happened(const ScanEvent& event) {
-  if (const auto* source = std::get_if<SourceBegins>(&event)) m_actualParseFileName = source->file;
-  m_readFiles.add(event, m_host.saves);
-  // A source that cannot be decoded is passed over by the rules; these two would take words along.
-  if (const auto* file = std::get_if<ProjectFileUnread>(&event)) m_reading.note(file->file, file->error.sentence);
-  if (const auto* file = std::get_if<StringsFileUnread>(&event)) m_reading.note(file->file, file->error.sentence);
-  m_scanMessages.write(event);
-}
-
-void ProjectWindowController::parseFileList(const FileUrl& directory, const ProjectRules& rules) {
-  const auto result = std::make_shared<ScanResult>();
-  m_reading.clear();
-  ReportingScanListener listener(result->report, *this);
-  rules.readSources(directory, scanInput(listener), m_scanMemory, *result);
-  const std::optional<FileUrl>& package = m_scanMemory.projectPackage;
-  if (package && m_scanMemory.projectFileData == "") {
-    m_reading.note(package->appending("project.pbxproj"), "The project file is empty.");
-  }
-  onMainThread([&] { endParseFileList(result); });
-}
-
-void ProjectWindowController::endParseFileList(std::shared_ptr<ScanResult> result) {
-  if (m_longTimeCanceled.isSet()) {
+void ProjectWindowController::endParseFileList(std::shared_ptr<ScanRun> scan) {
+  if (m_longJob.canceled().isSet()) {
     clearProject();
     didEndLongTimeSheetReturnCodeContextInfo();
     return;
   }
-  m_longTime.outlets.longTimeSheetTitle->setStringValue(localized("Parsing Localizable.strings ..."));
-  m_host.threads.performInBackground([this, result, &rules = *m_rules] { parseLocalizableStringsList(result, rules); });
+  m_longJob.setTitle(localized("Parsing Localizable.strings ..."));
+  m_host.threads.performInBackground([this, scan] { parseLocalizableStringsList(scan); });
 }
 
-void ProjectWindowController::parseLocalizableStringsList(std::shared_ptr<ScanResult> result,
-                                                          const ProjectRules& rules) {
-  ReportingScanListener listener(result->report, *this);
-  const ScanEnd end = rules.readStringsFiles(scanInput(listener), *result);
-  if (end == ScanEnd::Complete) onMainThread([&] { endParseLocalizeableStringList(*result); });
+void ProjectWindowController::parseLocalizableStringsList(std::shared_ptr<ScanRun> scan) {
+  if (scan->parseLocalizableStringsList() == ScanEnd::Canceled) return;
+  onMainThread([&] { endParseLocalizeableStringList(*scan); });
 }
 
-void ProjectWindowController::endParseLocalizeableStringList(ScanResult& result) {
-  if (m_longTimeCanceled.isSet()) {
+void ProjectWindowController::endParseLocalizeableStringList(ScanRun& scan) {
+  if (m_longJob.canceled().isSet()) {
     clearProject();
   } else {
-    installResult(result);
+    installResult(scan);
   }
   didEndLongTimeSheetReturnCodeContextInfo();
 }
 
-void ProjectWindowController::installResult(ScanResult& result) {
+void ProjectWindowController::installResult(ScanRun& scan) {
   m_window.outlets.stringTableView->beginUpdates();
-  m_scanReport = std::move(result.report);
-  m_unread = m_reading.unread();
+  m_scanReport = std::move(scan.report);
+  m_readFiles = std::move(scan.readFiles);
+  m_unread = scan.unread();
+  ScanResult& result = scan.result;
   m_fileList = std::move(result.fileList);
   m_stringController.addObjects(result.stringList.records());
   m_stringController.setSelectionIndex(0);

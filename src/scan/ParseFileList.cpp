@@ -64,6 +64,7 @@ void FileListPhase::walk(const FileUrl& directory) {
 }
 
 void FileListPhase::sourceFile(const FileUrl& file, const Result<std::unique_ptr<ByteReader>>& opened) {
+  m_memory.actualParseFileName = file;
   tell(SourceBegins{file});
   m_result.fileList.push_back(file);
   const Result<std::string> text = opened ? readText(*opened.value()) : Result<std::string>(opened.error());

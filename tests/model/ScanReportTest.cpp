@@ -87,16 +87,5 @@ TEST(ScanReport, AddsUpTheFindingsOfAllFiles) {
   EXPECT_EQ(totals.unmatchedEntries, 1U);
 }
 
-TEST(ReportingScanListener, CountsAndPassesOn) {
-  struct Recorder : ScanListener {
-    void happened(const ScanEvent& event) override { excerpts.emplace_back(std::get<CallRejected>(event).excerpt); }
-    std::vector<std::string> excerpts;
-  } next;
-  ScanReport report;
-  ReportingScanListener(report, next).happened(CallRejected{kSource, "x", CallRejection::NoKey});
-  EXPECT_EQ(report.totals().rejectedCalls, 1U);
-  EXPECT_EQ(next.excerpts, std::vector<std::string>{"x"});
-}
-
 }  // namespace
 }  // namespace glossmill

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <vector>
+
+#include "model/ProjectRules.h"
+#include "model/ScanReport.h"
+#include "platform/SaveDisk.h"
+#include "project/ReadFiles.h"
+#include "project/ScanMessages.h"
+#include "safety/WatchedReading.h"
+
+namespace glossmill {
+
+/// One scan on its way through its two phases: what it gathers, and whoever hears of what happens. The thread that
+/// reads has it for itself; the main thread gets it at the end.
+class ScanRun : private ScanListener {
+ public:
+  /// What a scan works on beside the project; all of it outlives the scan.
+  struct Parts {
+    FileReading& files;
+    SaveDisk& saves;
+    const IsoTable& isoTable;
+    const CancelFlag& canceled;
+    ScanMessages& messages;
+  };
+
+  ScanRun(const ProjectRules& rules, const Parts& parts)
+      : m_rules(rules), m_parts(parts), m_reading(parts.files, parts.saves) {}
+
+  /// Phase one.
+  void parseFileList(const FileUrl& directory, ScanMemory& memory);
+  /// Phase two.
+  ScanEnd parseLocalizableStringsList();
+
+  ScanResult result;
+  ScanReport report;
+  ReadFiles readFiles;
+  /// What the system did not give, or not completely.
+  std::vector<UnreadPlace> unread() const { return m_reading.unread(); }
+
+ private:
+  ScanInput input() { return {m_reading, m_parts.isoTable, m_parts.canceled, *this}; }
+  void happened(const ScanEvent& event) override;
+
+  const ProjectRules& m_rules;
+  const Parts m_parts;
+  WatchedReading m_reading;
+};
+
+}  // namespace glossmill
