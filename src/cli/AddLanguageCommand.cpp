@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "cli/DisplayText.h"
 #include "cli/Paths.h"
 #include "cli/ProjectSession.h"
 
@@ -13,7 +14,6 @@ struct AddLanguageOptions {
   std::string directory;
   std::string code;
   bool save = false;
-  bool dryRun = false;
   WritingOptions writing;
 };
 
@@ -23,8 +23,8 @@ bool isNewLanguage(const ProjectSession& session, const std::string& code) {
   for (const std::shared_ptr<Language>& language : *session.project().languagesList()) {
     if (language->iso639() != code) continue;
     const FileUrl& url = language->localizedStringUrl();
-    session.console().error("the project has the language \"" + code +
-                            "\" already: " + std::string(shownPath(session.project().projectDirectory(), url)));
+    session.console().error("the project has the language " + inQuotes(code) +
+                            " already: " + std::string(shownPath(session.project().projectDirectory(), url)));
     return false;
   }
   return true;
@@ -39,13 +39,11 @@ ExitCode addLanguageToProject(ProjectSession& session, const AddLanguageOptions&
 }
 
 ExitCode addNewLanguage(const AddLanguageOptions& options, Console& console) {
-  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun),
-                                   .writing = &options.writing,
-                                   .command = "add-language " + options.code});
+  ProjectSession session(console, {.writing = &options.writing, .command = "add-language " + options.code});
   const ExitCode opened = session.openPackage(options.directory);
   if (opened != ExitCode::Fine) return opened;
   if (!session.project().iso639Dict().nameOf(options.code)) {
-    console.error("\"" + options.code + "\" is no language code of ISO 639");
+    console.error(inQuotes(options.code) + " is no language code of ISO 639");
     return ExitCode::WrongUsage;
   }
   if (!isNewLanguage(session, options.code)) return ExitCode::WrongUsage;
@@ -62,7 +60,6 @@ void addAddLanguageCommand(CLI::App& program, TypedCommand& typed) {
   addDirectory(command, options->directory);
   addRequired(command, "CODE", options->code, "ISO 639 code of the language, two or three letters");
   addFlag(command, "--save", options->save, "Write its strings file too");
-  addDryRun(command, options->dryRun);
   addWritingOptions(command, options->writing);
 }
 

@@ -46,6 +46,10 @@ std::size_t displayWidth(std::string_view text) {
   return width;
 }
 
+std::string inQuotes(std::string_view text) {
+  return std::string("\"").append(text).append("\"");
+}
+
 std::string counted(std::size_t count, std::string_view noun) {
   return std::to_string(count).append(" ").append(noun).append(count == 1 ? "" : "s");
 }

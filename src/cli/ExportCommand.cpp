@@ -36,7 +36,7 @@ FileUrl exportTarget(ProjectSession& session, const ExportOptions& options) {
 }
 
 ExitCode exportLanguage(const ExportOptions& options, Console& console) {
-  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun)});
+  ProjectSession session(console, {.dryRun = options.dryRun});
   const OpenedLanguage opened = openLanguage(session, options.directory, options.language);
   if (opened.code != ExitCode::Fine) return opened.code;
   const FileUrl target = exportTarget(session, options);

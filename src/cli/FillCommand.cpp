@@ -11,14 +11,11 @@ namespace {
 struct FillOptions {
   std::string directory;
   std::string language;
-  bool dryRun = false;
   WritingOptions writing;
 };
 
 ExitCode fill(const FillOptions& options, Console& console) {
-  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun),
-                                   .writing = &options.writing,
-                                   .command = "fill --language " + options.language});
+  ProjectSession session(console, {.writing = &options.writing, .command = "fill --language " + options.language});
   const OpenedLanguage opened = openLanguage(session, options.directory, options.language);
   if (opened.code != ExitCode::Fine) return opened.code;
   const std::size_t before = session.project().missingTranslations(*opened.language);
@@ -40,7 +37,6 @@ void addFillCommand(CLI::App& program, TypedCommand& typed) {
                                  [options](Console& console) { return fill(*options, console); });
   addDirectory(command, options->directory);
   addLanguage(command, options->language);
-  addDryRun(command, options->dryRun);
   addWritingOptions(command, options->writing);
 }
 

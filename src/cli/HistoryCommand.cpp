@@ -54,7 +54,7 @@ ExitCode showHistory(const HistoryOptions& options, Console& console) {
   PosixSaveDisk disk;
   const FileUrl project = absoluteUrl(options.directory);
   if (files.kindOf(project) != EntryKind::Directory) {
-    console.error("there is no directory \"" + options.directory + "\"");
+    console.error("there is no directory " + inQuotes(options.directory));
     return ExitCode::Unusable;
   }
   const std::vector<SavedVersion> versions = SavedVersions(files, disk, project).list();

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "cli/DisplayText.h"
 #include "cli/LanguageChoice.h"
 #include "cli/Paths.h"
 #include "cli/TextTable.h"
@@ -14,7 +15,6 @@ struct ImportOptions {
   std::string directory;
   std::string language;
   std::string file;
-  bool dryRun = false;
   WritingOptions writing;
 };
 
@@ -28,14 +28,12 @@ void printCounts(const ImportReport& counts, Console& console) {
 }
 
 ExitCode unreadable(const ImportOptions& options, const Error& error, Console& console) {
-  console.error("cannot read \"" + options.file + "\": " + error.sentence);
+  console.error("cannot read " + inQuotes(options.file) + ": " + error.sentence);
   return ExitCode::Unusable;
 }
 
 ExitCode importLanguage(const ImportOptions& options, Console& console) {
-  ProjectSession session(console, {.files = ReportingFiles::modeFor(options.dryRun),
-                                   .writing = &options.writing,
-                                   .command = "import --language " + options.language});
+  ProjectSession session(console, {.writing = &options.writing, .command = "import --language " + options.language});
   const OpenedLanguage opened = openLanguage(session, options.directory, options.language);
   if (opened.code != ExitCode::Fine) return opened.code;
   const FileUrl file = absoluteUrl(options.file);
@@ -60,7 +58,6 @@ void addImportCommand(CLI::App& program, TypedCommand& typed) {
   addDirectory(command, options->directory);
   addRequired(command, "FILE", options->file, "Text file that was exported and filled in");
   addLanguage(command, options->language);
-  addDryRun(command, options->dryRun);
   addWritingOptions(command, options->writing);
 }
 

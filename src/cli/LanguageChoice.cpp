@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "cli/DisplayText.h"
+
 namespace glossmill {
 
 namespace {
@@ -17,7 +19,8 @@ void explainMissing(const ProjectSession& session, const std::string& code) {
     codes += codes.empty() ? "" : ", ";
     codes += language->iso639();
   }
-  session.console().error("the project has no language \"" + code + "\"; it has " + (codes.empty() ? "none" : codes));
+  session.console().error("the project has no language " + inQuotes(code) + "; it has " +
+                          (codes.empty() ? "none" : codes));
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include "cli/ProjectSession.h"
 
+#include "cli/DisplayText.h"
 #include "cli/Interrupt.h"
 #include "cli/Paths.h"
+#include "cli/WritingReport.h"
 #include "safety/UnfinishedSave.h"
 
 namespace glossmill {
@@ -13,44 +15,11 @@ using Clock = std::chrono::steady_clock;
 /// Jobs that end sooner show no progress.
 constexpr std::chrono::milliseconds kLongJob{500};
 
-std::string inQuotes(std::string_view text) {
-  return std::string("\"").append(text).append("\"");
-}
-
 Outcome usableDirectory(Files& files, const FileUrl& directory) {
   if (directory.empty()) return Error{"The directory does not exist."};
   if (files.kindOf(directory) == EntryKind::File) return Error{"It is not a directory."};
   const auto entries = files.list(directory);
   return entries ? Outcome(Done{}) : entries.error();
-}
-
-std::string_view changeText(FileChange change, bool pretended) {
-  switch (change) {
-    case FileChange::Created:
-      return pretended ? "would be created  " : "created    ";
-    case FileChange::Changed:
-      return pretended ? "would change      " : "changed    ";
-    case FileChange::Unchanged:
-      break;
-  }
-  return pretended ? "is unchanged      " : "unchanged  ";
-}
-
-/// Nothing for a file that could not be written.
-std::optional<FileChange> changeOf(const FileOutcome& outcome) {
-  switch (outcome.kind) {
-    case FileOutcome::Kind::Unchanged:
-      return FileChange::Unchanged;
-    case FileOutcome::Kind::Created:
-      return FileChange::Created;
-    case FileOutcome::Kind::Changed:
-    case FileOutcome::Kind::Removed:
-      return FileChange::Changed;
-    case FileOutcome::Kind::Failed:
-    case FileOutcome::Kind::DirectoryFailed:
-      break;
-  }
-  return std::nullopt;
 }
 
 KeptLog keptLog(const Console& console, const ProjectSession::Options& options) {
@@ -69,7 +38,7 @@ AppDelegate* keptDelegate(const Host& host, KeptLog keptLog) {
 ProjectSession::ProjectSession(Console& console, const Options& options)
     : m_console(console),
       m_options(options),
-      m_files(m_host.files, options.files),
+      m_files(m_host.files, ReportingFiles::modeFor(options.pretends())),
       m_delegate(keptDelegate(hostParts(), keptLog(console, options))) {
   catchInterrupt();
   m_host.panels.answerAlert = [this](const AlertRequest& alert) { return answerAlert(alert); };
@@ -106,7 +75,7 @@ ProjectOptions ProjectSession::projectOptions() const {
   ProjectOptions options;
   if (m_options.writing) options.allowance = m_options.writing->allowance();
   options.asksToSave = false;
-  options.pretendsToSave = m_options.files == ReportingFiles::Mode::Pretend;
+  options.pretendsToSave = m_options.pretends();
   options.command = m_options.command;
   options.version = GLOSSMILL_VERSION;
   return options;
@@ -114,7 +83,7 @@ ProjectOptions ProjectSession::projectOptions() const {
 
 /// A dry run keeps nobody away, and is kept away by nobody.
 ExitCode ProjectSession::keepForWriting(const FileUrl& directory) {
-  if (!m_options.writing || m_options.files == ReportingFiles::Mode::Pretend) {
+  if (!m_options.writing || m_options.pretends()) {
     mentionUnfinishedSave(directory);
     return ExitCode::Fine;
   }
@@ -159,44 +128,9 @@ ExitCode ProjectSession::saveProject() {
   return allWritten ? ExitCode::Fine : ExitCode::Unusable;
 }
 
-/// What was not written again is said whether or not anybody wants messages.
-void ProjectSession::reportSave() const {
-  const SaveReport& save = project().lastSave();
-  if (save.refusal) explainRefusal(*save.refusal, project().projectDirectory(), m_console);
-  for (const SavedLanguage& language : save.languages) {
-    if (language.outcome.hasOtherNames) {
-      m_console.message(inQuotes(shownPath(project().projectDirectory(), language.file)) +
-                        " has other names (hard links), which keep the former text");
-    }
-    if (language.notWritten() == 0U || !language.outcome.isWritten()) continue;
-    const std::string before = language.entriesBefore ? std::to_string(*language.entriesBefore) : "unknown";
-    const std::string lost = language.notWritten() ? std::to_string(*language.notWritten()) : "unknown";
-    m_console.note(language.code + ": " + before + " entries before, " + std::to_string(language.entriesAfter) +
-                   " after, " + lost + " not written again" +
-                   (save.id ? "; glossmill-cli restore --from " + *save.id + " brings them back" : ""));
-  }
-}
-
 void ProjectSession::reportFiles() const {
-  const bool pretended = m_options.files == ReportingFiles::Mode::Pretend;
-  std::string text;
-  for (const WrittenFile& file : m_files.written()) {
-    text += changeText(file.change, pretended);
-    text += shownPath(project().projectDirectory(), file.url);
-    text += file.isDirectory ? "/\n" : "\n";
-  }
-  for (const SavedLanguage& language : project().lastSave().languages) {
-    for (const FileUrl& directory : language.outcome.directories) {
-      text += changeText(FileChange::Created, pretended);
-      text += std::string(shownPath(project().projectDirectory(), directory)) + "/\n";
-    }
-    const std::optional<FileChange> change = changeOf(language.outcome);
-    if (!change) continue;
-    text += changeText(*change, pretended);
-    text += std::string(shownPath(project().projectDirectory(), language.file)) + "\n";
-  }
-  m_console.data(text);
-  reportSave();
+  printWriting({project().projectDirectory(), m_files.written(), project().lastSave(), m_options.pretends()},
+               m_console);
 }
 
 /// The view is told of every message, but also when the log was emptied.
@@ -218,7 +152,7 @@ AlertAnswer ProjectSession::answerAlert(const AlertRequest& alert) {
     m_console.error(alert.message);
     m_console.error("cannot write " + inQuotes(shownPath(project().projectDirectory(), alert.cause->file)) + ": " +
                     alert.cause->error.sentence);
-  } else if (m_options.files == ReportingFiles::Mode::Write) {
+  } else if (!m_options.pretends()) {
     m_console.message(alert.message);
   }
   return AlertAnswer::Default;

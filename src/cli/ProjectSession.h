@@ -20,10 +20,13 @@ class ProjectSession {
  public:
   struct Options {
     bool keepsLogs = false;  ///< both of them, to be asked for afterwards
-    ReportingFiles::Mode files = ReportingFiles::Mode::Write;
+    bool dryRun = false;
     /// Of a command that writes the project: it is kept for this process from the first read on. Outlives the session.
     const WritingOptions* writing = nullptr;
     std::string command = {};  ///< by which words it was started, for the record of its saves
+
+    /// Whether everything is only said that would be written.
+    bool pretends() const { return dryRun || (writing && writing->dryRun); }
   };
 
   /// `console` outlives the session.
@@ -40,7 +43,6 @@ class ProjectSession {
 
   ProjectWindowController& project() { return *m_delegate->projectWindowController(); }
   const ProjectWindowController& project() const { return *m_delegate->projectWindowController(); }
-  const HeadlessInterfaceFiles& interfaces() const { return m_host.interfaces; }
   ReportingFiles& files() { return m_files; }
   Console& console() const { return m_console; }
 
@@ -56,7 +58,6 @@ class ProjectSession {
   ProjectOptions projectOptions() const;
   ExitCode keepForWriting(const FileUrl& directory);
   void mentionUnfinishedSave(const FileUrl& directory);
-  void reportSave() const;
   void passMessagesOn();
   void showLastMessage();
   void takeSystemLogLine(const Message& line);

@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 
+#include "cli/DisplayText.h"
 #include "cli/Paths.h"
 #include "cli/WritingOptions.h"
 #include "safety/Restore.h"
@@ -20,7 +21,6 @@ struct RestoreOptions {
   std::string from;
   std::vector<std::string> files;
   bool finish = false;
-  bool dryRun = false;
   WritingOptions writing;
 };
 
@@ -36,7 +36,7 @@ class RestoreRun {
 
   ExitCode run() {
     if (m_files.kindOf(m_project) != EntryKind::Directory) {
-      m_console.error("there is no directory \"" + m_options.directory + "\"");
+      m_console.error("there is no directory " + inQuotes(m_options.directory));
       return ExitCode::Unusable;
     }
     const ExitCode locked = takeLock(m_lock, m_project, m_options.writing, m_console);
@@ -76,9 +76,9 @@ ExitCode RestoreRun::finish() {
     return ExitCode::Fine;
   }
   for (const SavedFile& file : m_unfinished->manifest.files) {
-    m_console.data((m_options.dryRun ? "would be finished  " : "finished  ") + shown(file.file) + "\n");
+    m_console.data((m_options.writing.dryRun ? "would be finished  " : "finished  ") + shown(file.file) + "\n");
   }
-  if (m_options.dryRun) return ExitCode::Fine;
+  if (m_options.writing.dryRun) return ExitCode::Fine;
   const Outcome finished = finishSave(m_files, m_disk, m_versions, *m_unfinished);
   if (finished) return ExitCode::Fine;
   m_console.error("cannot finish the save: " + finished.error().sentence);
@@ -108,23 +108,23 @@ ExitCode RestoreRun::takeBack() {
   const std::optional<SavedVersion> version = wantedVersion();
   if (!version) {
     m_console.error(m_options.from.empty() ? "no save of this project is kept"
-                                           : "there is no save \"" + m_options.from + "\"");
+                                           : "there is no save " + inQuotes(m_options.from));
     return m_options.from.empty() ? ExitCode::Unusable : ExitCode::WrongUsage;
   }
   const RestorePlan plan =
       planRestore(m_files, m_versions, *version, wantedFiles(), m_options.writing.allows("changed"));
   for (const FileUrl& lost : plan.lost) {
-    m_console.error("what \"" + shown(lost) + "\" held is not kept any more");
+    m_console.error("what " + inQuotes(shown(lost)) + " held is not kept any more");
   }
   if (!plan.lost.empty()) return ExitCode::Unusable;
   if (plan.changed.empty() || m_options.writing.allows("changed")) return write(*version, plan);
-  for (const FileUrl& changed : plan.changed) m_console.error("\"" + shown(changed) + "\" was edited since the save");
+  for (const FileUrl& changed : plan.changed) m_console.error(inQuotes(shown(changed)) + " was edited since the save");
   m_console.error("nothing was written; to write all the same: --allow changed");
   return ExitCode::Unusable;
 }
 
 ExitCode RestoreRun::write(const SavedVersion& version, const RestorePlan& plan) {
-  if (m_options.dryRun) {
+  if (m_options.writing.dryRun) {
     for (const FileText& text : plan.texts) report(text, nullptr);
     return ExitCode::Fine;
   }
@@ -133,7 +133,7 @@ ExitCode RestoreRun::write(const SavedVersion& version, const RestorePlan& plan)
                         "restore --from " + version.id,
                         std::time(nullptr),
                         m_options.writing.allowance(),
-                        m_options.dryRun};
+                        m_options.writing.dryRun};
   const SaveResult result = SaveTransaction(m_files, m_disk, order).save(plan.texts);
   if (result.refusal) {
     explainRefusal(*result.refusal, resolvedProject(), m_console);
@@ -153,7 +153,7 @@ ExitCode RestoreRun::write(const SavedVersion& version, const RestorePlan& plan)
 
 void RestoreRun::report(const FileText& text, const FileOutcome* outcome) {
   if (outcome && outcome->kind == FileOutcome::Kind::Failed) {
-    m_console.error("cannot write \"" + shown(text.file) + "\": " + outcome->error.sentence);
+    m_console.error("cannot write " + inQuotes(shown(text.file)) + ": " + outcome->error.sentence);
     return;
   }
   const std::string verb = text.bytes ? "restored" : "removed";
@@ -173,7 +173,6 @@ void addRestoreCommand(CLI::App& program, TypedCommand& typed) {
   command.add_option("--from", options->from, "Which save, as history names it; the newest without it")
       ->option_text("SAVE");
   addFlag(command, "--finish", options->finish, "Finish a save that was cut short instead");
-  addDryRun(command, options->dryRun);
   addWritingOptions(command, options->writing);
 }
 

@@ -10,13 +10,11 @@ namespace {
 
 struct SaveOptions {
   std::string directory;
-  bool dryRun = false;
   WritingOptions writing;
 };
 
 ExitCode save(const SaveOptions& options, Console& console) {
-  ProjectSession session(
-      console, {.files = ReportingFiles::modeFor(options.dryRun), .writing = &options.writing, .command = "save"});
+  ProjectSession session(console, {.writing = &options.writing, .command = "save"});
   const ExitCode opened = session.openPackage(options.directory);
   if (opened != ExitCode::Fine) return opened;
   return session.saveProject();
@@ -30,7 +28,6 @@ void addSaveCommand(CLI::App& program, TypedCommand& typed) {
       addCommand(program, typed, {"save", "Rewrite the strings file of every language", "~/Projects/Harbour --dry-run"},
                  [options](Console& console) { return save(*options, console); });
   addDirectory(command, options->directory);
-  addDryRun(command, options->dryRun);
   addWritingOptions(command, options->writing);
 }
 

@@ -51,7 +51,7 @@ void printJson(const ProjectSession& session, const LanguageArray& languages, bo
 }
 
 std::string missingText(const ProjectSession& session, const LocalizeString& record) {
-  std::string text = "  \"" + printableLine(record.name()) + "\"\n";
+  std::string text = "  " + inQuotes(printableLine(record.name())) + "\n";
   for (const std::string& comment : record.commentArray()) {
     if (!comment.empty()) text += "      /* " + printableLine(comment) + " */\n";
   }

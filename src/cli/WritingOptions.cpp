@@ -5,7 +5,9 @@
 #include <chrono>
 #include <thread>
 
+#include "cli/DisplayText.h"
 #include "cli/Paths.h"
+#include "cli/TypedCommand.h"
 
 namespace glossmill {
 
@@ -40,6 +42,7 @@ SaveAllowance WritingOptions::allowance() const {
 }
 
 void addWritingOptions(CLI::App& command, WritingOptions& options) {
+  addDryRun(command, options.dryRun);
   command
       .add_option("--allow", options.allowed,
                   "Write all the same: incomplete, outside, changed or no-copy; may be repeated")
@@ -60,18 +63,18 @@ ExitCode takeLock(ProjectLock& lock, const FileUrl& project, const WritingOption
     return true;
   });
   if (!held) {
-    console.error("cannot lock \"" + project.path() + "\": " + held.error().sentence);
+    console.error("cannot lock " + inQuotes(project.path()) + ": " + held.error().sentence);
     return ExitCode::Unusable;
   }
   if (!held.value()) return ExitCode::Fine;
   const std::string who = held.value()->by ? "process " + std::to_string(*held.value()->by) : "another process";
-  console.error("\"" + project.path() + "\" is being written by " + who + "; nothing was done");
+  console.error(inQuotes(project.path()) + " is being written by " + who + "; nothing was done");
   return ExitCode::Unusable;
 }
 
 void explainRefusal(const SaveRefusal& refusal, const FileUrl& project, Console& console) {
   for (const SaveRefusal::Place& place : refusal.places) {
-    console.error("not written: \"" + std::string(shownPath(project, place.file)) + "\": " + place.sentence);
+    console.error("not written: " + inQuotes(shownPath(project, place.file)) + ": " + place.sentence);
   }
   console.error("nothing was written; to write all the same: --allow " + allowanceFor(refusal.kind));
 }

@@ -20,12 +20,13 @@ namespace glossmill {
 struct WritingOptions {
   std::vector<std::string> allowed;  ///< names of what would be refused otherwise
   double waitSeconds = 10;           ///< for another program that writes the project
+  bool dryRun = false;
 
   bool allows(const std::string& what) const;
   SaveAllowance allowance() const;
 };
 
-/// Adds --allow and --wait.
+/// Adds --dry-run, --allow and --wait.
 void addWritingOptions(CLI::App& command, WritingOptions& options);
 
 /// Takes the lock on the project, waiting as long as was asked for; Unusable, explained on the console, when somebody

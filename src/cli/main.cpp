@@ -7,6 +7,7 @@
 #include "cli/AddLanguageCommand.h"
 #include "cli/CheckCommand.h"
 #include "cli/Console.h"
+#include "cli/DisplayText.h"
 #include "cli/ExitCode.h"
 #include "cli/ExportCommand.h"
 #include "cli/FillCommand.h"
@@ -54,7 +55,7 @@ void addEverything(CLI::App& program, TypedCommand& typed) {
 
 std::string commandProblem(const CLI::App& program) {
   const std::vector<std::string> unknown = program.remaining();
-  return unknown.empty() ? "no command was given" : "there is no command \"" + unknown.front() + "\"";
+  return unknown.empty() ? "no command was given" : "there is no command " + inQuotes(unknown.front());
 }
 
 /// Help and the version are no errors, though they end the reading of the command line like one.
