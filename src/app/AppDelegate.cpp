@@ -2,11 +2,12 @@
 
 #include <algorithm>
 
+#include "model/Settings.h"
+
 namespace glossmill {
 
 namespace {
 
-constexpr const char* kRecentSetting = "RecentUrls";
 constexpr std::size_t kRecentLimit = 5;
 constexpr int kClearMenuTag = 4;
 
@@ -126,13 +127,12 @@ void AppDelegate::saveRecent(std::string_view path) {
 }
 
 void AppDelegate::storeRecent() {
-  m_host.defaults.setStringArray(kRecentSetting, m_recentArray);
-  m_host.defaults.synchronize();
+  storeTexts(m_host.defaults, SettingId::RecentProjects, m_recentArray);
   loadRecent();
 }
 
 void AppDelegate::loadRecent() {
-  m_recentArray = m_host.defaults.stringArrayForKey(kRecentSetting).value_or(std::vector<std::string>());
+  m_recentArray = storedTexts(m_host.defaults, SettingId::RecentProjects);
   Menu& menu = m_host.recentMenu;
   menu.removeAllItems();
   for (const std::string& path : m_recentArray) {

@@ -1,14 +1,12 @@
 #include "dialogs/SelectLanguageWindowController.h"
 
 #include "dialogs/LanguageEntry.h"
+#include "model/Settings.h"
 #include "text/FoldCase.h"
 
 namespace glossmill {
 
 namespace {
-
-/// Spelled so in every stored setting (rule 58).
-constexpr const char* kFilterSetting = "SelectLangaugeFilterButtonState";
 
 enum CodeLengths { TwoLetterCodes = 0, ThreeLetterCodes = 1, BothLengths = 2 };
 
@@ -43,7 +41,7 @@ Window& SelectLanguageWindowController::window() {
 void SelectLanguageWindowController::windowDidLoad() {
   m_interface.outlets.tableView->setDoubleAction([this] { doubleClickTableView(); });
   m_interface.outlets.isoPopUpButton->selectItemAtIndex(
-      static_cast<int>(m_host.defaults.integerForKey(kFilterSetting)));
+      static_cast<int>(storedNumber(m_host.defaults, SettingId::CodeLengths)));
   changeFilter();
   m_languageController.setSelectionIndex(0);
   m_interface.outlets.window->focusMainField();
@@ -60,8 +58,7 @@ void SelectLanguageWindowController::changeFilter() {
   }
   m_languageController.addObjects(entries);
   m_interface.outlets.tableView->endUpdates();
-  m_host.defaults.setInteger(kFilterSetting, choice);
-  m_host.defaults.synchronize();
+  storeNumber(m_host.defaults, SettingId::CodeLengths, choice);
 }
 
 void SelectLanguageWindowController::search(std::string_view text) {

@@ -2,9 +2,10 @@
 
 namespace glossmill {
 
-long MemoryDefaults::integerForKey(std::string_view key) {
+std::optional<long> MemoryDefaults::integerForKey(std::string_view key) {
   const auto found = m_integers.find(key);
-  return found == m_integers.end() ? 0 : found->second;
+  if (found == m_integers.end()) return std::nullopt;
+  return found->second;
 }
 
 void MemoryDefaults::setInteger(std::string_view key, long value) {

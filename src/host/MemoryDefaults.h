@@ -9,7 +9,7 @@ namespace glossmill {
 /// Settings that are forgotten at the end of the run.
 class MemoryDefaults : public UserDefaults {
  public:
-  long integerForKey(std::string_view key) override;
+  std::optional<long> integerForKey(std::string_view key) override;
   void setInteger(std::string_view key, long value) override;
   std::optional<std::vector<std::string>> stringArrayForKey(std::string_view key) override;
   void setStringArray(std::string_view key, const std::vector<std::string>& values) override;

@@ -11,8 +11,8 @@ namespace glossmill {
 class UserDefaults {
  public:
   virtual ~UserDefaults() = default;
-  /// 0 when absent.
-  virtual long integerForKey(std::string_view key) = 0;
+  /// Nothing when absent.
+  virtual std::optional<long> integerForKey(std::string_view key) = 0;
   virtual void setInteger(std::string_view key, long value) = 0;
   /// Nothing when absent; an empty list that was stored may also come back as nothing.
   virtual std::optional<std::vector<std::string>> stringArrayForKey(std::string_view key) = 0;

@@ -1,3 +1,4 @@
+#include "model/Settings.h"
 #include "project/ProjectWindowController.h"
 
 namespace glossmill {
@@ -13,8 +14,7 @@ constexpr int kSaveToolbarItem = 2;
 void ProjectWindowController::changeStringFilter() {
   m_window.outlets.stringTableView->beginUpdates();
   const int index = m_window.outlets.stringFilterPopUp->indexOfSelectedItem();
-  m_host.defaults.setInteger("StringFilterPopUp", index);
-  m_host.defaults.synchronize();
+  storeNumber(m_host.defaults, SettingId::StringFilter, index);
   if (index == kStringsNotComplete) holdBackCompleteStrings();
   if (index == kAllStrings) giveBackStrings();
   m_window.outlets.stringTableView->endUpdates();

@@ -1,3 +1,4 @@
+#include "model/Settings.h"
 #include "project/ProjectWindowController.h"
 #include "project/ScanRun.h"
 
@@ -44,7 +45,7 @@ void ProjectWindowController::installResult(ScanRun& scan) {
   m_languageController.setContent(result.languagesList);
   m_languageController.setSelectionIndex(0);
   m_window.outlets.stringFilterPopUp->selectItemAtIndex(
-      static_cast<int>(m_host.defaults.integerForKey("StringFilterPopUp")));
+      static_cast<int>(storedNumber(m_host.defaults, SettingId::StringFilter)));
   changeStringFilter();
   m_window.outlets.stringTableView->endUpdates();
   setChanged(false);

@@ -4,9 +4,12 @@
 #include <QSettings>
 #include <QToolBar>
 #include <QToolTip>
+#include <algorithm>
+#include <set>
 
 #include "desktop/DesktopFixture.h"
 #include "desktop/TestClasses.h"
+#include "model/Settings.h"
 
 namespace glossmill {
 
@@ -156,6 +159,22 @@ class OpeningTest : public DesktopFixture {
     QVERIFY(items.at(1)->isSeparator());
     QCOMPARE(items.last()->text(), QStringLiteral("Clear Menu"));
     QCOMPARE(QSettings().value(QStringLiteral("RecentUrls")).toStringList(), QStringList({demo().directory()}));
+  }
+
+  void storesNothingThatIsNotInTheTableOfSettings() {
+    openDemo();
+    press(Qt::Key_L, Qt::ControlModifier);
+    press(Qt::Key_Escape);
+    program().delegate().openLogWindow();
+    startAnew();
+    std::set<SettingId> stored;
+    for (const QString& key : QSettings().allKeys()) {
+      const QString start = key.section(QLatin1Char('/'), 0, 0);
+      const auto known = std::ranges::find_if(settings(), [&](const Setting& each) { return toQt(each.key) == start; });
+      QVERIFY2(known != settings().end(), qPrintable(key));
+      stored.insert(known->id);
+    }
+    QCOMPARE(stored.size(), settings().size());
   }
 
   void opensThePanelAtARecentProjectThatIsChosen() {

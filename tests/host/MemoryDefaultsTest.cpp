@@ -9,7 +9,7 @@ using Texts = std::vector<std::string>;
 
 TEST(MemoryDefaults, HoldNothingAtFirst) {
   MemoryDefaults defaults;
-  EXPECT_EQ(defaults.integerForKey("StringFilterPopUp"), 0);
+  EXPECT_FALSE(defaults.integerForKey("StringFilterPopUp").has_value());
   EXPECT_FALSE(defaults.stringArrayForKey("RecentUrls").has_value());
 }
 

@@ -61,7 +61,7 @@ class RecordingSaveDisk : public SaveDisk {
 class RecordingDefaults : public UserDefaults {
  public:
   RecordingDefaults(CallRecorder& calls, UserDefaults& inner) : m_calls(calls), m_inner(inner) {}
-  long integerForKey(std::string_view key) override { return m_inner.integerForKey(key); }
+  std::optional<long> integerForKey(std::string_view key) override { return m_inner.integerForKey(key); }
   void setInteger(std::string_view key, long value) override;
   std::optional<std::vector<std::string>> stringArrayForKey(std::string_view key) override;
   void setStringArray(std::string_view key, const std::vector<std::string>& values) override;

@@ -6,12 +6,13 @@
 
 namespace glossmill {
 
-long SettingsDefaults::integerForKey(std::string_view key) {
+std::optional<long> SettingsDefaults::integerForKey(std::string_view key) {
+  if (!m_settings.contains(toQt(key))) return std::nullopt;
   return m_settings.value(toQt(key)).toInt();
 }
 
 void SettingsDefaults::setInteger(std::string_view key, long value) {
-  if (m_settings.contains(toQt(key)) && integerForKey(key) == value) return;
+  if (integerForKey(key) == value) return;
   m_settings.setValue(toQt(key), static_cast<int>(value));
 }
 

@@ -10,7 +10,7 @@ namespace glossmill {
 /// not set again: writing the file waits for the disk.
 class SettingsDefaults : public UserDefaults {
  public:
-  long integerForKey(std::string_view key) override;
+  std::optional<long> integerForKey(std::string_view key) override;
   void setInteger(std::string_view key, long value) override;
   std::optional<std::vector<std::string>> stringArrayForKey(std::string_view key) override;
   /// An empty list removes the key: the settings file has no form for it that reads back.

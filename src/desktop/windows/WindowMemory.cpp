@@ -5,12 +5,15 @@
 #include <QSplitter>
 #include <QTableView>
 
+#include "desktop/host/QtText.h"
+#include "model/Settings.h"
+
 namespace glossmill {
 
 namespace {
 
 QString keyFor(const QWidget& window, const QString& part) {
-  return QStringLiteral("Layout/%1/%2").arg(window.objectName(), part);
+  return QStringList({toQt(setting(SettingId::WindowLayout).key), window.objectName(), part}).join(QLatin1Char('/'));
 }
 
 }  // namespace
