@@ -1,3 +1,4 @@
+#include <QGuiApplication>
 #include <QTest>
 
 #include "app/Commands.h"
@@ -7,7 +8,6 @@
 #include "desktop/look/Icons.h"
 #include "desktop/look/LanguageDirection.h"
 #include "desktop/look/ReadableColor.h"
-#include "desktop/look/SvgPath.h"
 #include "desktop/tables/CellText.h"
 #include "desktop/windows/EditorText.h"
 
@@ -68,14 +68,21 @@ class TextsTest : public QObject {
     QCOMPARE(qRound(contrast(Qt::black, Qt::white)), 21);
   }
 
-  void pathsAreDrawn() {
-    const QPainterPath square = svgPath(QStringLiteral("M1 1 H3 V3 h-2 z"));
-    QCOMPARE(square.boundingRect(), QRectF(1, 1, 2, 2));
-    QCOMPARE(svgPath(QStringLiteral("m1,1 2,2 l1-1")).currentPosition(), QPointF(4, 2));
-    QCOMPARE(svgPath(QStringLiteral("M0 0 C1 0 2 1 2 2")).currentPosition(), QPointF(2, 2));
-    QVERIFY(svgPath(QString()).isEmpty());
-    QCOMPARE(svgPath(QStringLiteral("M1 1 L2 2 ? L9 9")).currentPosition(), QPointF(2, 2));
-    svgPath(QStringLiteral("M1 1 z 5 5 z 5 5"));
+  void picturesAreDrawnInTheColourOfButtonTexts() {
+    const QPalette before = QGuiApplication::palette();
+    const QIcon open = icon(QStringLiteral("open"));
+    for (const QColor& color : {QColor(200, 30, 40), QColor(230, 240, 250)}) {
+      QPalette palette = before;
+      palette.setColor(QPalette::ButtonText, color);
+      QGuiApplication::setPalette(palette);
+      const QImage picture = open.pixmap(96, 96).toImage();
+      int inked = 0;
+      for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) inked += picture.pixelColor(x, y) == color ? 1 : 0;
+      }
+      QVERIFY2(inked > 100, qPrintable(color.name()));
+    }
+    QGuiApplication::setPalette(before);
   }
 
   void everyToolHasAPicture() {
