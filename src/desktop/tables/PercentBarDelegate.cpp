@@ -10,10 +10,10 @@ namespace glossmill {
 namespace {
 
 constexpr int kBarHeight = 7;
-constexpr int kMargin = 6;
+constexpr int kBarMargin = 6;
 
 QRectF barOf(const QRect& cell) {
-  return QRectF(cell.left() + kMargin, cell.center().y() + 0.5 - kBarHeight / 2.0, cell.width() - 2 * kMargin,
+  return QRectF(cell.left() + kBarMargin, cell.center().y() + 0.5 - kBarHeight / 2.0, cell.width() - 2 * kBarMargin,
                 kBarHeight);
 }
 
