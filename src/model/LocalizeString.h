@@ -11,12 +11,14 @@
 #include "model/ProjectContext.h"
 #include "model/Status.h"
 #include "model/StatusTexts.h"
+#include "model/TableRow.h"
 #include "platform/FileUrl.h"
 
 namespace glossmill {
 
 /// One localizable string of the project: its key, where and with which comments it was found, and its translations.
-/// All text is raw, as it stands between the quotes of the source. Built on the scan's thread, then used on the main
+/// Under the classic rules all text is raw, as it stands between the quotes of the source; under xcode's it is what
+/// the program sees. Built on the scan's thread, then used on the main
 /// thread.
 class LocalizeString {
  public:
@@ -40,6 +42,10 @@ class LocalizeString {
   /// For building records.
   void setLanguagesDict(LanguagesDict dict) { m_languagesDict = std::move(dict); }
   LanguagesDict takeLanguagesDict() { return std::exchange(m_languagesDict, LanguagesDict()); }
+  /// What xcode's rules know of it; null under the classic rules.
+  const TableRow* tableRow() const { return m_tableRow.get(); }
+  TableRow* tableRow() { return m_tableRow.get(); }
+  void setTableRow(std::unique_ptr<TableRow> row) { m_tableRow = std::move(row); }
 
   /// The names of the files, joined by ", ", duplicates included.
   std::string sourceList() const;
@@ -67,6 +73,7 @@ class LocalizeString {
   std::vector<std::string> m_commentArray;
   std::vector<FileUrl> m_filesArray;
   LanguagesDict m_languagesDict;
+  std::unique_ptr<TableRow> m_tableRow;
 };
 
 using StringArray = std::vector<std::shared_ptr<LocalizeString>>;

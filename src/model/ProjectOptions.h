@@ -1,17 +1,28 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "model/SaveAllowance.h"
+#include "platform/FileUrl.h"
 
 namespace glossmill {
 
 /// By which rules a project is read and saved.
-enum class RuleSet { Classic };
+enum class RuleSet { Classic, Xcode };
+
+/// How xcode's rules are to read a project. Empty: as they find out themselves.
+struct XcodeOptions {
+  std::vector<FileUrl> packages;
+  std::vector<std::string> exclude;   ///< globs of what is not read, below the project's directory
+  std::vector<std::string> routines;  ///< of the project's own, such as "MyString(key, comment)"
+  std::string sourceLanguage;         ///< the code of the development language
+};
 
 /// What a user chose for a project before it is opened.
 struct ProjectOptions {
   RuleSet rules = RuleSet::Classic;
+  XcodeOptions xcode;           ///< only those rules look at it
   SaveAllowance allowance;      ///< what a save may do without asking
   bool asksToSave = true;       ///< what is not allowed is asked; otherwise the save is refused
   bool pretendsToSave = false;  ///< a save only tells what it would do

@@ -9,6 +9,7 @@
 #include "model/IsoTable.h"
 #include "model/Language.h"
 #include "model/LanguageTexts.h"
+#include "model/ProjectOptions.h"
 #include "model/ScanEvents.h"
 #include "model/ScanResult.h"
 #include "platform/CancelFlag.h"
@@ -22,6 +23,7 @@ struct ScanInput {
   const IsoTable& isoTable;
   const CancelFlag& canceled;
   ScanListener& listener;
+  const ProjectOptions& options;
 };
 
 /// What a scan leaves behind for the next one, also when it ended early.

@@ -53,6 +53,9 @@ void ProjectWindowController::clearProject() {
   m_filteredStringList.clear();
   m_stringController.removeAllObjects();
   m_fileList.clear();
+  m_packages.clear();
+  m_tables.clear();
+  m_problems.clear();
   m_readFiles.clear();
   m_unread.clear();
   m_scanReport = ScanReport();

@@ -15,11 +15,13 @@
 #include "model/IsoTable.h"
 #include "model/Language.h"
 #include "model/LocalizeString.h"
+#include "model/Problem.h"
 #include "model/ProjectContext.h"
 #include "model/ProjectOptions.h"
 #include "model/ProjectRules.h"
 #include "model/ScanReport.h"
 #include "model/StatusTexts.h"
+#include "model/StringsTable.h"
 #include "model/TranslationCounts.h"
 #include "platform/Host.h"
 #include "project/LongJob.h"
@@ -82,6 +84,10 @@ class ProjectWindowController : public ProjectContext,
   const ScanReport& scanReport() const { return m_scanReport; }
   /// What of the open project the system did not give, or not completely.
   const std::vector<UnreadPlace>& unread() const { return m_unread; }
+  // What xcode's rules found beside; empty under the classic rules.
+  const std::vector<FileUrl>& packages() const { return m_packages; }
+  const StringsTables& tables() const { return m_tables; }
+  const std::vector<Problem>& problems() const { return m_problems; }
   /// Whether the long-time sheet was begun and not yet closed.
   bool longJobRunning() const { return m_longJob.isRunning(); }
 
@@ -247,6 +253,9 @@ class ProjectWindowController : public ProjectContext,
   StringController m_stringController;      ///< its content is the string list
   LanguageController m_languageController;  ///< its content is the list of languages
   std::vector<FileUrl> m_fileList;
+  std::vector<FileUrl> m_packages;
+  StringsTables m_tables;
+  std::vector<Problem> m_problems;
   StringArray m_filteredStringList;  ///< held back from the string table by the filter
   mutable TranslationCounts m_counts;
   EditDoor m_edits;

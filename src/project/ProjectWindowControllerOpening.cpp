@@ -37,7 +37,8 @@ bool ProjectWindowController::parseProject() {
   beginLongJob("Parsing project directory...");
   m_longJob.showActivity();
   const auto scan = std::make_shared<ScanRun>(
-      *m_rules, ScanRun::Parts{m_host.files, m_host.saves, m_iso639Dict, m_longJob.canceled(), m_scanMessages});
+      *m_rules,
+      ScanRun::Parts{m_host.files, m_host.saves, m_iso639Dict, m_longJob.canceled(), m_scanMessages, m_options});
   m_host.threads.performInBackground([this, scan, directory = m_projectDirectory] { parseFileList(directory, scan); });
   return true;
 }

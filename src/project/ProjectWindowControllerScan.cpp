@@ -40,6 +40,9 @@ void ProjectWindowController::installResult(ScanRun& scan) {
   m_unread = scan.unread();
   ScanResult& result = scan.result;
   m_fileList = std::move(result.fileList);
+  m_packages = std::move(result.packages);
+  m_tables = std::move(result.tables);
+  m_problems = std::move(result.problems);
   m_stringController.addObjects(result.stringList.records());
   m_stringController.setSelectionIndex(0);
   m_languageController.setContent(result.languagesList);

@@ -22,6 +22,7 @@ class ScanRun : private ScanListener {
     const IsoTable& isoTable;
     const CancelFlag& canceled;
     ScanMessages& messages;
+    const ProjectOptions& options;
   };
 
   ScanRun(const ProjectRules& rules, const Parts& parts)
@@ -39,7 +40,7 @@ class ScanRun : private ScanListener {
   std::vector<UnreadPlace> unread() const { return m_reading.unread(); }
 
  private:
-  ScanInput input() { return {m_reading, m_parts.isoTable, m_parts.canceled, *this}; }
+  ScanInput input() { return {m_reading, m_parts.isoTable, m_parts.canceled, *this, m_parts.options}; }
   void happened(const ScanEvent& event) override;
 
   const ProjectRules& m_rules;

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
+#include "text/DecodedFile.h"
 #include "text/EncodedText.h"
-#include "text/FileText.h"
 
 namespace glossmill {
 namespace {
 
 /// Reads the bytes and writes them again; gives what was read.
-FileText readAndWrite(const std::string& bytes, std::optional<FileEncoding> otherwise = std::nullopt) {
-  const Result<FileText> file = textOfFile(bytes, otherwise);
+DecodedFile readAndWrite(const std::string& bytes, std::optional<FileEncoding> otherwise = std::nullopt) {
+  const Result<DecodedFile> file = textOfFile(bytes, otherwise);
   EXPECT_TRUE(file.ok()) << file.error().sentence;
   const Result<std::string> again = bytesOfFile(file.value());
   EXPECT_TRUE(again.ok() && again.value() == bytes);
@@ -16,41 +16,41 @@ FileText readAndWrite(const std::string& bytes, std::optional<FileEncoding> othe
 }
 
 std::string sentenceFor(const std::string& bytes, std::optional<FileEncoding> otherwise = std::nullopt) {
-  const Result<FileText> file = textOfFile(bytes, otherwise);
+  const Result<DecodedFile> file = textOfFile(bytes, otherwise);
   return file ? "read" : file.error().sentence;
 }
 
-TEST(FileText, AMarkDecidesWhateverTheProjectSays) {
+TEST(DecodedFile, AMarkDecidesWhateverTheProjectSays) {
   for (const TextEncoding encoding : kAllEncodings) {
-    const FileText file = readAndWrite(withMark(U"ä€\U0001F6A2\n", encoding), EightBitEncoding::MacRoman);
+    const DecodedFile file = readAndWrite(withMark(U"ä€\U0001F6A2\n", encoding), EightBitEncoding::MacRoman);
     EXPECT_EQ(file.text, "ä€\U0001F6A2\n");
     EXPECT_EQ(file.encoding, FileEncoding(encoding));
     EXPECT_TRUE(file.hasMark);
   }
 }
 
-TEST(FileText, ASecondMarkStaysInTheText) {
+TEST(DecodedFile, ASecondMarkStaysInTheText) {
   EXPECT_EQ(readAndWrite("\uFEFF\uFEFFa").text, "\uFEFFa");
   EXPECT_EQ(readAndWrite(withMark(U"\uFEFFa", TextEncoding::Utf16LittleEndian)).text, "\uFEFFa");
 }
 
-TEST(FileText, ZeroBytesTellUtf16WithoutAMark) {
+TEST(DecodedFile, ZeroBytesTellUtf16WithoutAMark) {
   for (const TextEncoding encoding : kUtf16Encodings) {
-    const FileText file = readAndWrite(encode(U"\"ä\" = \"\U0001F6A2\";\n", encoding), EightBitEncoding::MacRoman);
+    const DecodedFile file = readAndWrite(encode(U"\"ä\" = \"\U0001F6A2\";\n", encoding), EightBitEncoding::MacRoman);
     EXPECT_EQ(file.text, "\"ä\" = \"\U0001F6A2\";\n");
     EXPECT_EQ(file.encoding, FileEncoding(encoding));
     EXPECT_FALSE(file.hasMark);
   }
 }
 
-TEST(FileText, Utf8ComesBeforeWhatTheProjectSays) {
-  const FileText file = readAndWrite("ä", EightBitEncoding::MacRoman);
+TEST(DecodedFile, Utf8ComesBeforeWhatTheProjectSays) {
+  const DecodedFile file = readAndWrite("ä", EightBitEncoding::MacRoman);
   EXPECT_EQ(file.text, "ä");
   EXPECT_EQ(file.encoding, FileEncoding(TextEncoding::Utf8));
   EXPECT_FALSE(file.hasMark);
 }
 
-TEST(FileText, WhatIsNotUtf8IsReadAsTheProjectSays) {
+TEST(DecodedFile, WhatIsNotUtf8IsReadAsTheProjectSays) {
   EXPECT_EQ(readAndWrite("\x8A\xD2", EightBitEncoding::MacRoman).text, "ä“");
   EXPECT_EQ(readAndWrite("\xE4\x80", EightBitEncoding::Windows1252).text, "ä€");
   EXPECT_EQ(readAndWrite(encode(U"漢€", TextEncoding::Utf16BigEndian), TextEncoding::Utf16BigEndian).text, "漢€");
@@ -62,17 +62,17 @@ TEST(FileText, WhatIsNotUtf8IsReadAsTheProjectSays) {
   EXPECT_EQ(sentenceFor("\xFF\xFE\x41", EightBitEncoding::Latin1), kUtf16Sentence);
 }
 
-TEST(FileText, EmptyBytesAreTheEmptyText) {
+TEST(DecodedFile, EmptyBytesAreTheEmptyText) {
   EXPECT_EQ(readAndWrite("", EightBitEncoding::MacRoman).text, "");
 }
 
-TEST(FileText, ACharacterThatTheEncodingLacksIsNamed) {
+TEST(DecodedFile, ACharacterThatTheEncodingLacksIsNamed) {
   const Result<std::string> bytes = bytesOfFile({"aж€", EightBitEncoding::MacRoman, false});
   ASSERT_FALSE(bytes.ok());
   EXPECT_EQ(bytes.error().sentence, "The character “ж” cannot be written in the encoding of the file, Mac Roman.");
 }
 
-TEST(FileText, KnowsTheNumbersOfProjectFiles) {
+TEST(DecodedFile, KnowsTheNumbersOfProjectFiles) {
   EXPECT_EQ(encodingOfNumber(1), FileEncoding(EightBitEncoding::Ascii));
   EXPECT_EQ(encodingOfNumber(4), FileEncoding(TextEncoding::Utf8));
   EXPECT_EQ(encodingOfNumber(5), FileEncoding(EightBitEncoding::Latin1));
@@ -86,7 +86,7 @@ TEST(FileText, KnowsTheNumbersOfProjectFiles) {
   EXPECT_EQ(encodingOfNumber(0x80000A01), std::nullopt);
 }
 
-TEST(FileText, KnowsEncodingsByName) {
+TEST(DecodedFile, KnowsEncodingsByName) {
   EXPECT_EQ(encodingOfName("UTF-8"), FileEncoding(TextEncoding::Utf8));
   EXPECT_EQ(encodingOfName("ISO-8859-1"), FileEncoding(EightBitEncoding::Latin1));
   EXPECT_EQ(encodingOfName("utf-7"), std::nullopt);

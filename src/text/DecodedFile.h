@@ -25,19 +25,19 @@ std::optional<FileEncoding> encodingOfName(std::string_view name);
 std::string_view displayName(const FileEncoding& encoding);
 
 /// A whole file as UTF-8 text, and how its bytes stand for it. Bytes become text and text bytes again without a loss.
-struct FileText {
+struct DecodedFile {
   std::string text;  ///< without the byte-order mark; a second one stays part of it
   FileEncoding encoding = TextEncoding::Utf8;
   bool hasMark = false;
 };
 
 /// By the byte-order mark, else UTF-16 by its zero bytes, else UTF-8, else `otherwise`.
-Result<FileText> textOfFile(std::string bytes, std::optional<FileEncoding> otherwise);
+Result<DecodedFile> textOfFile(std::string bytes, std::optional<FileEncoding> otherwise);
 
 /// The bytes of text in `encoding`, whatever marks and zero bytes say.
 Result<std::string> decodeAs(std::string_view bytes, const FileEncoding& encoding);
 
 /// An error names the first character that the encoding lacks.
-Result<std::string> bytesOfFile(const FileText& file);
+Result<std::string> bytesOfFile(const DecodedFile& file);
 
 }  // namespace glossmill

@@ -1,4 +1,4 @@
-#include "text/FileText.h"
+#include "text/DecodedFile.h"
 
 #include <algorithm>
 #include <utility>
@@ -110,9 +110,9 @@ Result<std::string> eightBitText(std::string_view bytes, EightBitEncoding encodi
   return text;
 }
 
-Result<FileText> withText(Result<std::string> text, FileEncoding encoding, bool hasMark) {
+Result<DecodedFile> withText(Result<std::string> text, FileEncoding encoding, bool hasMark) {
   if (!text) return text.error();
-  return FileText{std::move(text.value()), encoding, hasMark};
+  return DecodedFile{std::move(text.value()), encoding, hasMark};
 }
 
 }  // namespace
@@ -132,7 +132,7 @@ std::string_view displayName(const FileEncoding& encoding) {
   return findEncoding([&](const EncodingName& name) { return name.encoding == encoding; })->displayName;
 }
 
-Result<FileText> textOfFile(std::string bytes, std::optional<FileEncoding> otherwise) {
+Result<DecodedFile> textOfFile(std::string bytes, std::optional<FileEncoding> otherwise) {
   const DetectedEncoding detected = detectEncoding(bytes);
   const bool hasMark = detected.markLength != 0;
   if (detected.encoding != TextEncoding::Utf8) return withText(decodeText(bytes), detected.encoding, hasMark);
@@ -140,7 +140,7 @@ Result<FileText> textOfFile(std::string bytes, std::optional<FileEncoding> other
   if (!isUtf8 && !hasMark && otherwise) return withText(decodeAs(bytes, *otherwise), *otherwise, false);
   if (!isUtf8) return decodeText(bytes).error();
   bytes.erase(0, detected.markLength);
-  return FileText{std::move(bytes), TextEncoding::Utf8, hasMark};
+  return DecodedFile{std::move(bytes), TextEncoding::Utf8, hasMark};
 }
 
 /// The decoder believes marks, so it is given the one that fits.
@@ -151,7 +151,7 @@ Result<std::string> decodeAs(std::string_view bytes, const FileEncoding& encodin
   return decodeText(marked);
 }
 
-Result<std::string> bytesOfFile(const FileText& file) {
+Result<std::string> bytesOfFile(const DecodedFile& file) {
   if (const auto* eightBit = std::get_if<EightBitEncoding>(&file.encoding)) return eightBitBytes(file.text, *eightBit);
   const auto encoding = std::get<TextEncoding>(file.encoding);
   if (!file.hasMark) return unicodeBytes(file.text, encoding);
