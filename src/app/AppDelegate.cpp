@@ -43,6 +43,8 @@ bool AppDelegate::validateMenuItem(int tag) const {
       return project && project->canSelectPrevLanguage();
     case 14:
       return project && project->canSelectNextLanguage();
+    case 20:
+      return m_news.current() != nullptr;
     default:
       return true;
   }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/LogWindowController.h"
+#include "app/NewsQueue.h"
 #include "platform/Host.h"
 #include "project/ProjectWindowController.h"
 
@@ -46,6 +47,7 @@ class AppDelegate : public ApplicationServices {
   void logText(const Message& message) override;
   void clearLog() override;
   void saveRecent(std::string_view path) override;
+  NewsQueue& news() override { return m_news; }
   void loadRecent();
 
   /// Null until the window was opened.
@@ -58,6 +60,7 @@ class AppDelegate : public ApplicationServices {
 
   Host m_host;
   const KeptLog m_keptLog;
+  NewsQueue m_news;
   std::unique_ptr<ProjectWindowController> m_projectWindowController;
   std::unique_ptr<LogWindowController> m_logWindowController;
   std::vector<std::string> m_recentArray;  ///< path texts, most recent first

@@ -51,6 +51,7 @@ constexpr Command kCommands[] = {
     {NextString, Go, "&Next String", {"Alt+Down", "Ctrl+Return"}, 12, false, onApplication<&App::nextString>},
     {PreviousLanguage, Go, "P&revious Language", {"Alt+Left"}, 13, kStartsGroup, onApplication<&App::prevLanguage>},
     {NextLanguage, Go, "Ne&xt Language", {"Alt+Right"}, 14, false, onApplication<&App::nextLanguage>},
+    {GoToMessage, Go, "Go to &Message", {"F6"}, 20, kStartsGroup},
 
     {ProjectWindow, Windows, "&Project Window", {"Ctrl+1"}, 9, false, onApplication<&App::openProjectWindow>},
     {LogWindow, Windows, "&Log Window", {"Ctrl+2"}, 10, false, onApplication<&App::openLogWindow>},

@@ -32,6 +32,7 @@ enum class CommandId {
   NextString,
   PreviousLanguage,
   NextLanguage,
+  GoToMessage,
   ProjectWindow,
   LogWindow,
   KeyboardShortcuts,

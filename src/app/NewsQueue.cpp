@@ -5,7 +5,7 @@
 
 namespace glossmill {
 
-void NewsQueue::add(News news) {
+void NewsQueue::post(News news) {
   const auto known =
       std::find_if(m_waiting.begin(), m_waiting.end(), [&news](const News& other) { return other.id == news.id; });
   if (known == m_waiting.end()) {

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "platform/NewsBoard.h"
 #include "text/Message.h"
 
 namespace glossmill {
@@ -15,6 +16,8 @@ class ApplicationServices {
   virtual void clearLog() = 0;
   /// Puts a project directory's path at the top of the recent projects.
   virtual void saveRecent(std::string_view path) = 0;
+  /// The quiet bar of the project window.
+  virtual NewsBoard& news() = 0;
 };
 
 /// The running program.

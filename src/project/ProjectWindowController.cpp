@@ -50,6 +50,7 @@ void ProjectWindowController::loadIsoTable() {
 
 void ProjectWindowController::clearProject() {
   m_application.clearLog();
+  m_application.news().clear();
   m_filteredStringList.clear();
   m_stringController.removeAllObjects();
   m_fileList.clear();
@@ -63,6 +64,7 @@ void ProjectWindowController::clearProject() {
   m_languageController.setContent(std::make_shared<LanguageArray>());
   setChanged(false);
   m_opened = false;
+  m_observers.tell(ProjectMoment::Closed);
 }
 
 void ProjectWindowController::logText(const Message& message) {

@@ -25,6 +25,7 @@
 #include "model/TranslationCounts.h"
 #include "platform/Host.h"
 #include "project/LongJob.h"
+#include "project/ProjectMoment.h"
 #include "project/ReadFiles.h"
 #include "project/SaveReport.h"
 #include "project/ScanMessages.h"
@@ -58,6 +59,8 @@ class ProjectWindowController : public ProjectContext,
   /// Empties the project and the log. What the last scan read of the project file stays (rule 35), so that a later scan
   /// whose project file cannot be read tests membership against it.
   void clearProject();
+  /// Who wants to hear what becomes of the project.
+  ProjectObservers& observers() { return m_observers; }
   /// Any thread.
   void logText(const Message& message);
 
@@ -259,6 +262,7 @@ class ProjectWindowController : public ProjectContext,
   StringArray m_filteredStringList;  ///< held back from the string table by the filter
   mutable TranslationCounts m_counts;
   EditDoor m_edits;
+  ProjectObservers m_observers;
 
   FileUrl m_projectDirectory;
   ProjectOptions m_options;

@@ -19,12 +19,15 @@ SaveAllowance allowanceWith(SaveAllowance allowance, SaveRefusal::Kind kind) {
 }  // namespace
 
 bool ProjectWindowController::saveLanguage(const std::shared_ptr<Language>& language) {
-  return save({language});
+  const bool written = save({language});
+  m_observers.tell(ProjectMoment::Saved);
+  return written;
 }
 
 bool ProjectWindowController::saveProject() {
   const bool allWritten = save(*languagesList());
   if (!m_lastSave.refusal) setChanged(false);
+  m_observers.tell(ProjectMoment::Saved);
   return allWritten;
 }
 

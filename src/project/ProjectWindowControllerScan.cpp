@@ -56,6 +56,7 @@ void ProjectWindowController::installResult(ScanRun& scan) {
   m_window.outlets.window->makeKeyAndOrderFront();
   m_window.outlets.window->setOrderedIndex(0);
   m_application.saveRecent(m_projectDirectory.path());
+  m_observers.tell(ProjectMoment::Opened);
 }
 
 }  // namespace glossmill

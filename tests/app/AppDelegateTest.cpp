@@ -212,6 +212,15 @@ TEST_F(ApplicationDelegate, EnablesEveryOtherCommandAlways) {
   for (const int tag : {-1, 0, 1, 8, 9, 10, 15, 99}) EXPECT_TRUE(enabled(tag)) << tag;
 }
 
+TEST_F(ApplicationDelegate, EnablesTheWayToAMessageWhileThereIsOneUntilTheProjectIsClosed) {
+  m_test.open();
+  EXPECT_FALSE(enabled(20));
+  m_test.application.news().post({"a", "text", {}, NewsKind::Note});
+  EXPECT_TRUE(enabled(20));
+  m_test.application.close();
+  EXPECT_FALSE(enabled(20));
+}
+
 TEST(ApplicationDelegateWithoutAProjectWindow, DoesNothingOnProjectCommands) {
   TestHost host;
   AppDelegate application(host.parts());

@@ -40,6 +40,7 @@ TEST(Commands, CarryTheTagsThatEnableThem) {
                                                 {CommandId::NextString, 12},
                                                 {CommandId::PreviousLanguage, 13},
                                                 {CommandId::NextLanguage, 14},
+                                                {CommandId::GoToMessage, 20},
                                                 {CommandId::Quit, 0}};
   for (const auto& [id, tag] : expected) EXPECT_EQ(command(id).tag, tag) << command(id).title;
 }

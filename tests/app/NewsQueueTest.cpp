@@ -6,13 +6,13 @@ namespace glossmill {
 namespace {
 
 News news(const std::string& id, const std::string& text = "text") {
-  return {id, text, {}};
+  return {id, text, {}, NewsKind::Note};
 }
 
 TEST(NewsQueue, OnePieceIsShownAndTheOthersWaitInTheirOrder) {
   NewsQueue queue;
   EXPECT_EQ(queue.current(), nullptr);
-  for (const char* id : {"a", "b", "c"}) queue.add(news(id));
+  for (const char* id : {"a", "b", "c"}) queue.post(news(id));
   EXPECT_EQ(queue.current()->id, "a");
   EXPECT_EQ(queue.waiting(), 2U);
   queue.dismiss();
@@ -24,9 +24,9 @@ TEST(NewsQueue, OnePieceIsShownAndTheOthersWaitInTheirOrder) {
 
 TEST(NewsQueue, NewerNewsOfAKindTakesThePlaceOfOlder) {
   NewsQueue queue;
-  queue.add(news("a"));
-  queue.add(news("b", "old"));
-  queue.add(news("b", "new"));
+  queue.post(news("a"));
+  queue.post(news("b", "old"));
+  queue.post(news("b", "new"));
   EXPECT_EQ(queue.waiting(), 1U);
   queue.dismiss();
   EXPECT_EQ(queue.current()->text, "new");
@@ -35,8 +35,8 @@ TEST(NewsQueue, NewerNewsOfAKindTakesThePlaceOfOlder) {
 TEST(NewsQueue, AnActionEndsItsNewsBeforeItIsDone) {
   NewsQueue queue;
   News one = news("a");
-  one.actions = {{"Show", nullptr}, {"Restore", [&queue] { queue.add(news("b")); }}};
-  queue.add(one);
+  one.actions = {{"Show", nullptr}, {"Restore", [&queue] { queue.post(news("b")); }}};
+  queue.post(one);
   queue.perform(2);
   EXPECT_EQ(queue.current()->id, "a");
   queue.perform(1);
@@ -46,7 +46,7 @@ TEST(NewsQueue, AnActionEndsItsNewsBeforeItIsDone) {
 
 TEST(NewsQueue, WhatIsOverIsWithdrawnWhereverItStands) {
   NewsQueue queue;
-  for (const char* id : {"a", "b", "c"}) queue.add(news(id));
+  for (const char* id : {"a", "b", "c"}) queue.post(news(id));
   queue.withdraw("b");
   queue.withdraw("a");
   EXPECT_EQ(queue.current()->id, "c");
@@ -60,8 +60,8 @@ TEST(NewsQueue, EveryChangeIsToldAndNothingElse) {
   queue.clear();
   queue.withdraw("a");
   EXPECT_EQ(changes, 0);
-  queue.add(news("a"));
-  queue.add(news("b"));
+  queue.post(news("a"));
+  queue.post(news("b"));
   queue.dismiss();
   queue.clear();
   EXPECT_EQ(changes, 4);

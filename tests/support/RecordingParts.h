@@ -3,6 +3,7 @@
 #include <deque>
 #include <mutex>
 
+#include "app/NewsQueue.h"
 #include "platform/Host.h"
 #include "support/CallRecorder.h"
 
@@ -182,9 +183,12 @@ class RecordingServices : public ApplicationServices {
   void logText(const Message& message) override { m_calls.add("log", message.text()); }
   void clearLog() override { m_calls.add("application", "clear the log"); }
   void saveRecent(std::string_view path) override;
+  /// News is no call of the window: it is looked at as it stands.
+  NewsQueue& news() override { return m_news; }
 
  private:
   CallRecorder& m_calls;
+  NewsQueue m_news;
 };
 
 }  // namespace glossmill

@@ -1,6 +1,7 @@
 #include "desktop/windows/NewsBar.h"
 
 #include <QAccessible>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -13,28 +14,77 @@
 
 namespace glossmill {
 
-NewsBar::NewsBar(NewsQueue& queue, const Bundle& bundle, QWidget* parent)
-    : QFrame(parent),
-      m_queue(queue),
-      m_bundle(bundle),
+namespace {
+
+constexpr int kIconSize = 22;
+constexpr double kTint = 0.16;  ///< of the bar, by the colour of selections
+
+/// What assistive technology takes for an alert, so that it is read aloud when it appears.
+class AccessibleBar : public QAccessibleWidget {
+ public:
+  explicit AccessibleBar(QWidget* bar) : QAccessibleWidget(bar, QAccessible::AlertMessage) {}
+};
+
+QAccessibleInterface* accessibleBar(const QString&, QObject* object) {
+  auto* bar = dynamic_cast<NewsBar*>(object);
+  return bar ? new AccessibleBar(bar) : nullptr;
+}
+
+void installAccessibleBar() {
+  static const bool kInstalled = [] {
+    QAccessible::installFactory(accessibleBar);
+    return true;
+  }();
+  static_cast<void>(kInstalled);
+}
+
+int mixed(int from, int to) {
+  return from + static_cast<int>((to - from) * kTint);
+}
+
+QColor mixed(const QColor& from, const QColor& to) {
+  return {mixed(from.red(), to.red()), mixed(from.green(), to.green()), mixed(from.blue(), to.blue())};
+}
+
+QToolButton* closeButton(const QStyle& style, const QString& name) {
+  auto* button = new QToolButton;
+  button->setObjectName(QStringLiteral("closeNews"));
+  button->setAutoRaise(true);
+  button->setIcon(style.standardIcon(QStyle::SP_TitleBarCloseButton));
+  button->setFocusPolicy(Qt::StrongFocus);
+  button->setAccessibleName(name);
+  button->setToolTip(name);
+  return button;
+}
+
+QLabel* textLabel() {
+  auto* label = new QLabel;
+  label->setObjectName(QStringLiteral("newsText"));
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  // A word that does not fit is better cut off than the whole window made wider by it.
+  label->setMinimumWidth(120);
+  return label;
+}
+
+}  // namespace
+
+NewsBar::NewsBar(NewsQueue& queue, const Bundle& bundle)
+    : m_queue(queue),
       m_buttons(new QHBoxLayout),
-      m_text(new QLabel),
-      m_close(new QToolButton) {
+      m_icon(new QLabel),
+      m_text(textLabel()),
+      m_close(closeButton(*style(), toQt(bundle.localizedString("Close this message")))) {
+  installAccessibleBar();
+  setObjectName(QStringLiteral("newsBar"));
   setFrameShape(QFrame::StyledPanel);
   setAutoFillBackground(true);
-  setBackgroundRole(QPalette::ToolTipBase);
-  m_text->setForegroundRole(QPalette::ToolTipText);
-  m_text->setTextFormat(Qt::PlainText);
-  m_text->setWordWrap(true);
-  m_close->setAutoRaise(true);
-  m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-  m_close->setFocusPolicy(Qt::TabFocus);
-  m_close->setAccessibleName(toQt(bundle.localizedString("Close this message")));
-  m_close->setToolTip(m_close->accessibleName());
+  takeColors();
   connect(m_close, &QToolButton::clicked, this, [this] { m_queue.dismiss(); });
-
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(10, 5, 6, 5);
+  layout->setSpacing(8);
+  layout->addWidget(m_icon);
   layout->addWidget(m_text, 1);
   layout->addLayout(m_buttons);
   layout->addWidget(m_close);
@@ -48,21 +98,45 @@ NewsBar::~NewsBar() {
 
 void NewsBar::show(const News* news) {
   const bool hadFocus = isAncestorOf(QApplication::focusWidget());
+  removeButtons();
+  setVisible(news != nullptr);
+  if (news) {
+    m_text->setText(toQt(news->text));
+    setAccessibleName(m_text->text());
+    showKind(news->kind);
+    addButtons(*news);
+    if (hadFocus) m_close->setFocus(Qt::OtherFocusReason);
+    announce();
+  } else if (hadFocus) {
+    giveFocusBack();
+  }
+  if (changed) changed();
+}
+
+void NewsBar::removeButtons() {
   while (QLayoutItem* item = m_buttons->takeAt(0)) {
     item->widget()->deleteLater();
     item->widget()->hide();
     delete item;
   }
-  setVisible(news != nullptr);
-  if (!news) {
-    if (hadFocus) giveFocusBack();
-    return;
-  }
-  m_text->setText(toQt(news->text));
-  setAccessibleName(m_text->text());
-  addButtons(*news);
-  if (hadFocus) m_close->setFocus(Qt::OtherFocusReason);
-  announce();
+}
+
+void NewsBar::showKind(NewsKind kind) {
+  const bool warns = kind == NewsKind::Warning;
+  const QIcon icon = style()->standardIcon(warns ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation);
+  m_icon->setPixmap(icon.pixmap(QSize(kIconSize, kIconSize), devicePixelRatioF()));
+}
+
+/// A little of the colour of selections tells the bar from the window, whether that is light or dark.
+void NewsBar::takeColors() {
+  QPalette colors;
+  colors.setColor(QPalette::Window, mixed(colors.color(QPalette::Window), colors.color(QPalette::Highlight)));
+  setPalette(colors);
+}
+
+void NewsBar::changeEvent(QEvent* event) {
+  QFrame::changeEvent(event);
+  if (event->type() == QEvent::ApplicationPaletteChange) takeColors();
 }
 
 void NewsBar::addButtons(const News& news) {
@@ -72,15 +146,19 @@ void NewsBar::addButtons(const News& news) {
     button->setAutoDefault(true);
     connect(button, &QPushButton::clicked, this, [this, number] { m_queue.perform(number); });
     m_buttons->addWidget(button);
+    button->show();
     if (before) setTabOrder(before, button);
     before = button;
   }
   if (before) setTabOrder(before, m_close);
 }
 
+/// Some screen readers listen for the appearance of an alert, others for the event of that name.
 void NewsBar::announce() {
-  QAccessibleEvent event(this, QAccessible::Alert);
-  QAccessible::updateAccessibility(&event);
+  for (const QAccessible::Event kind : {QAccessible::ObjectShow, QAccessible::Alert}) {
+    QAccessibleEvent event(this, kind);
+    QAccessible::updateAccessibility(&event);
+  }
 }
 
 void NewsBar::switchFocus() {

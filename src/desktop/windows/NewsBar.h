@@ -2,6 +2,7 @@
 
 #include <QFrame>
 #include <QPointer>
+#include <functional>
 
 #include "app/NewsQueue.h"
 #include "platform/Bundle.h"
@@ -17,24 +18,30 @@ namespace glossmill {
 class NewsBar : public QFrame {
  public:
   /// Both outlive the bar.
-  NewsBar(NewsQueue& queue, const Bundle& bundle, QWidget* parent);
+  NewsBar(NewsQueue& queue, const Bundle& bundle);
   ~NewsBar() override;
 
   /// Puts the keyboard on the first button, or back to where it was when the bar has it already.
   void switchFocus();
+  /// Called after the bar has shown other news, or none.
+  std::function<void()> changed;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void show(const News* news);
+  void removeButtons();
   void addButtons(const News& news);
+  void showKind(NewsKind kind);
+  void takeColors();
   void announce();
   void giveFocusBack();
 
   NewsQueue& m_queue;
-  const Bundle& m_bundle;
   QBoxLayout* m_buttons;
+  QLabel* m_icon;
   QLabel* m_text;
   QToolButton* m_close;
   QPointer<QWidget> m_focusBefore;

@@ -15,6 +15,7 @@ ProjectWindowInterface::ProjectWindowInterface(ProjectWindowController& project,
     : m_project(project),
       m_shell(shell),
       m_widgets(m_mainWindow),
+      m_newsBar(new NewsBar(shell.delegate.news(), shell.bundle)),
       m_window(m_mainWindow, *m_widgets.translationTextView),
       m_strings(
           {*m_widgets.stringTableView, *m_widgets.stringCount, *m_widgets.stringFilterPopUp, *m_widgets.searchField},
@@ -33,6 +34,7 @@ ProjectWindowInterface::ProjectWindowInterface(ProjectWindowController& project,
   m_widgets.stringTableView->setFocus();
   setUpCommands();
   setUpSearch();
+  setUpNews();
   observeProject();
 }
 
@@ -81,6 +83,12 @@ void ProjectWindowInterface::setUpSearch() {
   auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &field, nullptr, nullptr, Qt::WidgetShortcut);
   QObject::connect(escape, &QShortcut::activated, &field, [this] { m_strings.leaveSearch(); });
   QObject::connect(&field, &QLineEdit::returnPressed, &field, [this] { m_window.focusMainField(); });
+}
+
+void ProjectWindowInterface::setUpNews() {
+  m_widgets.centralLayout->insertWidget(0, m_newsBar);
+  m_newsBar->changed = [this] { m_shell.actions.validateSoon(); };
+  m_shell.actions.setHandler(CommandId::GoToMessage, [this] { m_newsBar->switchFocus(); });
 }
 
 void ProjectWindowInterface::observeProject() {

@@ -6,6 +6,7 @@
 #include "desktop/host/WidgetWindow.h"
 #include "desktop/windows/DetailPane.h"
 #include "desktop/windows/LanguagePane.h"
+#include "desktop/windows/NewsBar.h"
 #include "desktop/windows/ProjectToolBar.h"
 #include "desktop/windows/ProjectWindow.h"
 #include "desktop/windows/StringPane.h"
@@ -32,6 +33,7 @@ class ProjectWindowInterface : public LoadedInterface {
   void observeProject();
   void setUpCommands();
   void setUpSearch();
+  void setUpNews();
   void stringsChanged(ArrayChange change);
   void languagesChanged(ArrayChange change);
   void sheetsChanged();
@@ -40,6 +42,7 @@ class ProjectWindowInterface : public LoadedInterface {
   Shell& m_shell;
   ProjectWindow m_mainWindow;
   Widgets m_widgets;
+  NewsBar* m_newsBar;
   WidgetWindow m_window;
   StringPane m_strings;
   LanguagePane m_languages;
