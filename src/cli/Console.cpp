@@ -49,13 +49,21 @@ void put(std::FILE* stream, std::string_view text) {
 }  // namespace
 
 Console::Console()
-    : m_colorsOutput(wantsColor(STDOUT_FILENO)),
+    : m_isOutputTerminal(isatty(STDOUT_FILENO) != 0),
+      m_colorsOutput(wantsColor(STDOUT_FILENO)),
       m_colorsErrors(wantsColor(STDERR_FILENO)),
       m_showsProgress(isTerminal(STDERR_FILENO)) {}
 
 void Console::data(std::string_view text) {
   flush();
   put(stdout, text);
+}
+
+void Console::foreignText(std::string_view text) {
+  if (!m_isOutputTerminal) return data(text);
+  std::string printable;
+  appendPrintableText(printable, text);
+  data(printable);
 }
 
 std::string Console::painted(Paint paint, std::string_view text) const {

@@ -25,6 +25,8 @@ class Console {
 
   /// Written as it is.
   void data(std::string_view text);
+  /// Text that somebody else wrote: as it is too, but for what could do a terminal harm.
+  void foreignText(std::string_view text);
   /// The text with the colour codes around it where colour is wanted.
   std::string painted(Paint paint, std::string_view text) const;
 
@@ -52,6 +54,7 @@ class Console {
   void hideProgress();
 
   Loudness m_loudness = Loudness::Normal;
+  bool m_isOutputTerminal;
   bool m_colorsOutput;
   bool m_colorsErrors;
   bool m_showsProgress;

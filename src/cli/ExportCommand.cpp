@@ -29,7 +29,7 @@ FileUrl exportTarget(ProjectSession& session, const ExportOptions& options) {
     if (dryRun) {
       console.message("would be printed: " + std::to_string(text.size()) + " bytes");
     } else {
-      console.data(text);
+      console.foreignText(text);
     }
   });
   return target;

@@ -12,7 +12,7 @@ namespace glossmill {
 using Json = nlohmann::ordered_json;
 
 /// Prints one JSON object member by member, so that a large project is never held as a document. What is not valid
-/// UTF-8, as the name of a file may be, gets U+FFFD.
+/// UTF-8, as the name of a file may be, gets U+FFFD; control characters of U+007F to U+009F are escaped too.
 class JsonWriter {
  public:
   explicit JsonWriter(Console& console) : m_console(console) {}

@@ -11,6 +11,7 @@
 #include "cli/WritingOptions.h"
 #include "safety/Restore.h"
 #include "safety/UnfinishedSave.h"
+#include "text/PrintableText.h"
 
 namespace glossmill {
 
@@ -76,7 +77,8 @@ ExitCode RestoreRun::finish() {
     return ExitCode::Fine;
   }
   for (const SavedFile& file : m_unfinished->manifest.files) {
-    m_console.data((m_options.writing.dryRun ? "would be finished  " : "finished  ") + shown(file.file) + "\n");
+    m_console.data((m_options.writing.dryRun ? "would be finished  " : "finished  ") + printableLine(shown(file.file)) +
+                   "\n");
   }
   if (m_options.writing.dryRun) return ExitCode::Fine;
   const Outcome finished = finishSave(m_files, m_disk, m_versions, *m_unfinished);
@@ -157,7 +159,7 @@ void RestoreRun::report(const FileText& text, const FileOutcome* outcome) {
     return;
   }
   const std::string verb = text.bytes ? "restored" : "removed";
-  m_console.data((outcome ? verb : "would be " + verb) + "  " + shown(text.file) + "\n");
+  m_console.data((outcome ? verb : "would be " + verb) + "  " + printableLine(shown(text.file)) + "\n");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "cli/DisplayText.h"
 #include "cli/Paths.h"
 #include "cli/WritingOptions.h"
+#include "text/PrintableText.h"
 
 namespace glossmill {
 
@@ -39,7 +40,7 @@ std::optional<FileChange> changeOf(const FileOutcome& outcome) {
 
 std::string lineFor(const Writing& writing, FileChange change, const FileUrl& file, bool isDirectory) {
   std::string line(changeText(change, writing.pretended));
-  line += shownPath(writing.project, file);
+  line += printableLine(shownPath(writing.project, file));
   return line + (isDirectory ? "/\n" : "\n");
 }
 

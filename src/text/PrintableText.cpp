@@ -1,6 +1,7 @@
 #include "text/PrintableText.h"
 
 #include <bit>
+#include <cstdio>
 
 #include "text/ByteBlock.h"
 #include "text/Utf8.h"
@@ -11,25 +12,39 @@ namespace {
 
 constexpr char kDelete = 0x7F;
 constexpr char kLeadOfHighControls = '\xC2';  ///< of U+0080 to U+009F, and of harmless characters behind them
+constexpr char kLeadOfDirections = '\xE2';    ///< the same of U+202A to U+2069
 
 bool isControl(char32_t codePoint) {
   return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
 }
 
-bool mayStartControl(char byte) {
-  return static_cast<unsigned char>(byte) < 0x20 || byte == kDelete || byte == kLeadOfHighControls;
+/// Embeddings, overrides and isolates.
+bool isDirection(char32_t codePoint) {
+  return (codePoint >= 0x202A && codePoint <= 0x202E) || (codePoint >= 0x2066 && codePoint <= 0x2069);
 }
 
-/// The length of what stands in front of the first byte that may start a control character.
+bool mayStartHarm(char byte) {
+  return static_cast<unsigned char>(byte) < 0x20 || byte == kDelete || byte == kLeadOfHighControls ||
+         byte == kLeadOfDirections;
+}
+
+void appendCode(std::string& printable, char32_t codePoint) {
+  char code[16];
+  std::snprintf(code, sizeof code, "<U+%04X>", static_cast<unsigned>(codePoint));
+  printable.append(code);
+}
+
+/// The length of what stands in front of the first byte that may start a character which does not stay.
 std::size_t harmlessPrefix(std::string_view text) {
   constexpr ByteBlock::Mask kWhole = 0xFFFF;
   std::size_t at = 0;
   for (; at + ByteBlock::kSize <= text.size(); at += ByteBlock::kSize) {
     const ByteBlock block(text.data() + at);
-    const ByteBlock::Mask hits = (block.atLeast(0x20) ^ kWhole) | block.equalEither(kDelete, kLeadOfHighControls);
+    const ByteBlock::Mask hits = (block.atLeast(0x20) ^ kWhole) | block.equalEither(kDelete, kLeadOfHighControls) |
+                                 block.equal(kLeadOfDirections);
     if (hits != 0) return at + static_cast<std::size_t>(std::countr_zero(hits));
   }
-  while (at < text.size() && !mayStartControl(text[at])) ++at;
+  while (at < text.size() && !mayStartHarm(text[at])) ++at;
   return at;
 }
 
@@ -42,6 +57,10 @@ void appendValid(std::string& printable, std::string_view text, std::string_view
     const std::string_view before = text;
     const char32_t codePoint = takeCodePoint(text);
     const std::string_view bytes = before.substr(0, before.size() - text.size());
+    if (isDirection(codePoint)) {
+      appendCode(printable, codePoint);
+      continue;
+    }
     const bool stays = !isControl(codePoint) || allowedControls.find(bytes) != std::string_view::npos;
     printable.append(stays ? bytes : kReplacementCharacter);
   }

@@ -2,10 +2,13 @@
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
+#include <QTextDocument>
 
 #include "desktop/TestClasses.h"
 #include "desktop/host/QtText.h"
+#include "desktop/tables/ColumnTableModel.h"
 #include "desktop/tables/RecordTable.h"
+#include "host/EmbeddedBundle.h"
 
 namespace glossmill {
 
@@ -65,6 +68,21 @@ class TablesTest : public QObject {
     table.records.setFilter([](const std::string& text) { return text.ends_with('1'); });
     table.records.removeAllObjects();
     QCOMPARE(table.model.rowCount(), 0);
+  }
+
+  void takesNoToolTipForMarkup() {
+    ArrayController<std::string> records;
+    records.addObjects({std::make_shared<std::string>("<b>bold</b>\u202E"), std::make_shared<std::string>("plain")});
+    const EmbeddedBundle bundle(EmbeddedBundle::StringsTable{});
+    ColumnTableModel<std::string> model(records, {{"Text", 100, [](const std::string& text) { return toQt(text); }}},
+                                        bundle);
+    model.reset(2);
+    const QString tip = model.index(0, 0).data(Qt::ToolTipRole).toString();
+    QTextDocument shown;
+    shown.setHtml(tip);
+    QCOMPARE(shown.toPlainText(), QStringLiteral("<b>bold</b><U+202E>"));
+    QCOMPARE(model.index(1, 0).data(Qt::ToolTipRole).toString(), QStringLiteral("plain"));
+    QCOMPARE(model.index(0, 0).data().toString(), toQt("<b>bold</b>\u202E"));
   }
 
   void readsVisibleCellsOnly() {

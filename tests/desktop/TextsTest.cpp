@@ -1,15 +1,20 @@
-#include <QGuiApplication>
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
 #include <QTest>
+#include <QTimer>
 
 #include "app/Commands.h"
 #include "desktop/LaunchArguments.h"
 #include "desktop/TestClasses.h"
 #include "desktop/host/QtText.h"
+#include "desktop/host/WidgetPanels.h"
 #include "desktop/look/Icons.h"
 #include "desktop/look/LanguageDirection.h"
 #include "desktop/look/ReadableColor.h"
 #include "desktop/tables/CellText.h"
 #include "desktop/windows/EditorText.h"
+#include "host/EmbeddedBundle.h"
 
 namespace glossmill {
 
@@ -96,6 +101,30 @@ class TextsTest : public QObject {
       QVERIFY2(inked, qPrintable(toQt(item.icon)));
     }
     QVERIFY(icon(QStringLiteral("nothing")).isNull());
+  }
+
+  void anAlertTakesNothingForMarkup() {
+    MainThreadMailbox mailbox;
+    const EmbeddedBundle bundle{EmbeddedBundle::StringsTable()};
+    WidgetPanels panels(mailbox, bundle);
+    QStringList shown;
+    QTimer::singleShot(0, this, [&shown] {
+      for (QWidget* window : QApplication::topLevelWidgets()) {
+        auto* box = qobject_cast<QMessageBox*>(window);
+        if (!box || !box->isVisible()) continue;
+        for (QLabel* label : box->findChildren<QLabel*>()) {
+          if (!label->text().isEmpty() && label->textFormat() == Qt::PlainText) shown.append(label->text());
+        }
+        box->accept();
+      }
+    });
+    AlertRequest request;
+    request.message = "<i>a</i>\u202E";
+    request.informativeText = "<b>b</b>\x1B";
+    request.defaultButton = "Ok";
+    panels.runAlert(request);
+    shown.sort();
+    QCOMPARE(shown, (QStringList{QStringLiteral("<b>b</b>\uFFFD"), QStringLiteral("<i>a</i><U+202E>")}));
   }
 
   void theArgumentsOfALaunchAreRead() {

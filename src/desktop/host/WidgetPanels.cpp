@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "desktop/host/ForeignText.h"
 #include "desktop/host/QtText.h"
 
 namespace glossmill {
@@ -25,6 +27,13 @@ void prepareForDirectory(QFileDialog& panel, const OpenPanelRequest& request) {
 
 QPushButton* addButton(QMessageBox& box, const std::string& title, QMessageBox::ButtonRole role) {
   return title.empty() ? nullptr : box.addButton(toQt(title), role);
+}
+
+/// The box's format of texts is not that of this one, which would take what looks like markup for it.
+void setInformativeText(QMessageBox& box, const std::string& text) {
+  box.setInformativeText(shownText(text));
+  auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
+  if (label) label->setTextFormat(Qt::PlainText);
 }
 
 }  // namespace
@@ -72,8 +81,8 @@ AlertAnswer WidgetPanels::runAlert(const AlertRequest& request) {
   QMessageBox box(m_parent);
   box.setWindowModality(Qt::ApplicationModal);
   box.setTextFormat(Qt::PlainText);
-  box.setText(toQt(request.message));
-  box.setInformativeText(toQt(request.informativeText));
+  box.setText(shownText(request.message));
+  setInformativeText(box, request.informativeText);
   box.setIconPixmap(QApplication::windowIcon().pixmap(QSize(48, 48), box.devicePixelRatioF()));
   box.setDefaultButton(addButton(box, request.defaultButton, QMessageBox::AcceptRole));
   const QPushButton* alternate = addButton(box, request.alternateButton, QMessageBox::DestructiveRole);

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "desktop/host/ForeignText.h"
 #include "desktop/host/QtText.h"
 #include "desktop/look/ReadableColor.h"
 #include "desktop/tables/Column.h"
@@ -29,8 +30,9 @@ class ColumnTableModel : public RecordTableModel {
     const Column<Record>& column = m_columns[static_cast<std::size_t>(number)];
     switch (role) {
       case Qt::DisplayRole:
-      case Qt::ToolTipRole:
         return column.text(record);
+      case Qt::ToolTipRole:
+        return toolTipText(column.text(record));
       case Qt::ForegroundRole:
         return column.color ? readableColor(column.color(record), QGuiApplication::palette()) : QVariant();
       case Qt::TextAlignmentRole:
