@@ -107,6 +107,7 @@ void AppDelegate::logText(const Message& message) {
   m_host.threads.performOnMainThreadAndWait([&] {
     openLogWindow();
     m_logWindowController->logText(message);
+    if (onLogText) onLogText(message);
   });
 }
 

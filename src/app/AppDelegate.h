@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -42,6 +43,9 @@ class AppDelegate : public ApplicationServices {
   /// Opens the directory panel at a recent project.
   void recentMenu(std::string_view title);
   void clearRecent();
+
+  /// Called with each message of the log, for whoever passes messages on. Set it before the first one. Main thread.
+  std::function<void(const Message&)> onLogText;
 
   // Services for the project window.
   void logText(const Message& message) override;

@@ -16,7 +16,6 @@ void LogWindowController::windowDidLoad() {
 
 void LogWindowController::logText(const Message& message) {
   if (m_kept == KeptLog::Nothing) return;
-  if (m_kept == KeptLog::LastMessage) m_log.clear();
   m_log.add(message);
   updateTextView();
 }

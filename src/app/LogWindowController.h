@@ -8,8 +8,8 @@
 
 namespace glossmill {
 
-/// What stays of a log: all of it where it can be looked at, less where messages are only passed on, or not even that.
-enum class KeptLog { Whole, LastMessage, Nothing };
+/// What stays of a log: all of it where it can be looked at, nothing where messages are only passed on.
+enum class KeptLog { Whole, Nothing };
 
 /// The log window: every message for the user that is not an alert, a line feed after each. Main thread.
 class LogWindowController {

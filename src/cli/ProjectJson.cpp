@@ -1,6 +1,7 @@
 #include "cli/ProjectJson.h"
 
 #include "cli/JsonValues.h"
+#include "cli/LeftOut.h"
 
 namespace glossmill {
 
@@ -38,6 +39,8 @@ void printProjectJson(const ProjectSession& session) {
               [&](std::size_t i) { return stringJson(session, *project.stringList()[i]); });
   writer.list("log", log ? log->messageCount() : 0, [&](std::size_t i) { return log->message(i); });
   writer.list("systemLog", session.systemLog().count(), [&](std::size_t i) { return session.systemLog().message(i); });
+  const std::vector<FileFindings>& leftOut = project.scanReport().files();
+  writer.list("unread", leftOut.size(), [&](std::size_t i) { return leftOutJson(session, leftOut[i]); });
   writer.end();
 }
 

@@ -22,9 +22,8 @@ Outcome usableDirectory(Files& files, const FileUrl& directory) {
   return entries ? Outcome(Done{}) : entries.error();
 }
 
-KeptLog keptLog(const Console& console, const ProjectSession::Options& options) {
-  if (options.keepsLogs) return KeptLog::Whole;
-  return console.isQuiet() ? KeptLog::Nothing : KeptLog::LastMessage;
+KeptLog keptLog(const ProjectSession::Options& options) {
+  return options.keepsLogs ? KeptLog::Whole : KeptLog::Nothing;
 }
 
 /// The one delegate of the program, which ends with it.
@@ -39,7 +38,7 @@ ProjectSession::ProjectSession(Console& console, const Options& options)
     : m_console(console),
       m_options(options),
       m_files(m_host.files, ReportingFiles::modeFor(options.pretends())),
-      m_delegate(keptDelegate(hostParts(), keptLog(console, options))) {
+      m_delegate(keptDelegate(hostParts(), keptLog(options))) {
   catchInterrupt();
   m_host.panels.answerAlert = [this](const AlertRequest& alert) { return answerAlert(alert); };
   passMessagesOn();
@@ -47,7 +46,9 @@ ProjectSession::ProjectSession(Console& console, const Options& options)
 
 /// Where nobody wants a message, its text is not even made.
 void ProjectSession::passMessagesOn() {
-  if (!m_console.isQuiet()) m_host.interfaces.setLogObserver([this](std::string_view) { showLastMessage(); });
+  if (!m_console.isQuiet()) {
+    m_delegate->onLogText = [this](const Message& message) { m_console.message(message.shownText()); };
+  }
   if (!m_options.keepsLogs && !m_console.isVerbose()) return;
   m_host.systemLog.onLine = [this](const Message& line) { takeSystemLogLine(line); };
 }
@@ -133,17 +134,10 @@ void ProjectSession::reportFiles() const {
                m_console);
 }
 
-/// The view is told of every message, but also when the log was emptied.
-void ProjectSession::showLastMessage() {
-  const std::size_t count = log()->messageCount();
-  const std::string_view last = count == 0 ? std::string_view() : log()->message(count - 1);
-  if (!last.empty()) m_console.message(last);
-}
-
 /// On the thread that writes; the log itself lets in one at a time.
 void ProjectSession::takeSystemLogLine(const Message& line) {
   if (m_options.keepsLogs) m_systemLog.add(line);
-  if (m_console.isVerbose()) m_console.diagnostic(line.text());
+  if (m_console.isVerbose()) m_console.diagnostic(line.shownText());
 }
 
 /// Every alert has one button.

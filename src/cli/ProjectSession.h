@@ -59,7 +59,6 @@ class ProjectSession {
   ExitCode keepForWriting(const FileUrl& directory);
   void mentionUnfinishedSave(const FileUrl& directory);
   void passMessagesOn();
-  void showLastMessage();
   void takeSystemLogLine(const Message& line);
   AlertAnswer answerAlert(const AlertRequest& alert);
   void tick();

@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "cli/DisplayText.h"
 #include "cli/LanguageTable.h"
+#include "cli/LeftOut.h"
 #include "cli/Paths.h"
 #include "cli/ProjectJson.h"
 #include "cli/ProjectSession.h"
@@ -29,17 +29,13 @@ std::string projectTable(const ProjectSession& session) {
   return table.text(session.console());
 }
 
-std::string rejectedText(std::size_t rejected) {
-  if (rejected == 0) return {};
-  return "\n" + counted(rejected, "call") + (rejected == 1 ? " in the sources was" : " in the sources were") +
-         " rejected.\n";
-}
-
 void printSummary(const ProjectSession& session) {
   std::string text = projectTable(session);
   const LanguageArray& languages = *session.project().languagesList();
   if (!languages.empty()) text += "\n" + languageTable(session, languages);
-  session.console().data(text + rejectedText(session.project().scanReport().totals().rejectedCalls));
+  text += leftOutSummary(session);
+  if (session.console().isVerbose()) text += leftOutTable(session);
+  session.console().data(text);
 }
 
 ExitCode scan(const ScanOptions& options, Console& console) {

@@ -31,6 +31,11 @@ struct PackageFound {
   const FileUrl& package;
 };
 struct NoPackageFound {};
+/// A directory that could not be listed; told once for each.
+struct DirectoryUnread {
+  const FileUrl& directory;
+  const Error& error;
+};
 struct ProjectFileUnread {
   const FileUrl& file;
   const Error& error;
@@ -89,9 +94,10 @@ struct StringsFileRead {
   std::size_t entries;  ///< that were taken, repetitions of a key among them
 };
 
-using ScanEvent = std::variant<PackageFound, NoPackageFound, ProjectFileUnread, OldLanguageName, StringsFileFound,
-                               SourceBegins, SourceUnread, CallRejected, StringsFileMissing, StringsFileBegins,
-                               StringsFileUnread, LinesCounted, EntryRejected, EntryWithoutMatch, StringsFileRead>;
+using ScanEvent =
+    std::variant<PackageFound, NoPackageFound, DirectoryUnread, ProjectFileUnread, OldLanguageName, StringsFileFound,
+                 SourceBegins, SourceUnread, CallRejected, StringsFileMissing, StringsFileBegins, StringsFileUnread,
+                 LinesCounted, EntryRejected, EntryWithoutMatch, StringsFileRead>;
 
 /// Hears of what happens while a project is read: at once, in its order, on the thread that reads.
 class ScanListener {

@@ -1,5 +1,8 @@
 #include "model/ScanReport.h"
 
+#include <string>
+#include <unordered_map>
+
 #include "model/Overloaded.h"
 
 namespace glossmill {
@@ -13,9 +16,12 @@ std::size_t& unreadOf(FileRole role, ScanTotals& totals) {
     case FileRole::Source:
       return totals.unreadSources;
     case FileRole::StringsFile:
+      return totals.unreadStringsFiles;
+    case FileRole::Directory:
+    case FileRole::Unknown:
       break;
   }
-  return totals.unreadStringsFiles;
+  return totals.unreadPlaces;
 }
 
 }  // namespace
@@ -41,6 +47,19 @@ FileFindings& ScanReport::findings(FileRole role, const FileUrl& file) {
     m_files.push_back({file, role, std::nullopt, {}, 0, 0});
   }
   return m_files.back();
+}
+
+void ScanReport::addUnread(const std::vector<FileFindings>& places) {
+  std::unordered_map<std::string, std::size_t> known;
+  for (std::size_t at = 0; at < m_files.size(); ++at) known.try_emplace(m_files[at].file.path(), at);
+  for (const FileFindings& place : places) {
+    const auto found = known.find(place.file.path());
+    if (found == known.end()) {
+      m_files.push_back(place);
+    } else if (!m_files[found->second].unread) {
+      m_files[found->second].unread = place.unread;
+    }
+  }
 }
 
 ScanTotals ScanReport::totals() const {

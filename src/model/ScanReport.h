@@ -11,13 +11,13 @@
 namespace glossmill {
 
 /// What a file is to a project.
-enum class FileRole { ProjectFile, Source, StringsFile };
+enum class FileRole { ProjectFile, Source, StringsFile, Directory, Unknown };
 
 /// What a scan left out of one file. Counts only: a project may hold more than a million of what is counted here.
 struct FileFindings {
   FileUrl file;
   FileRole role = FileRole::Source;
-  std::optional<Error> unread;                                    ///< why nothing could be read of it
+  std::optional<Error> unread;                                    ///< why it was not read, or not completely
   std::array<std::uint32_t, kCallRejections> rejectedCalls = {};  ///< by reason
   std::uint32_t rejectedEntries = 0;
   std::uint32_t unmatchedEntries = 0;  ///< no source calls their key
@@ -28,6 +28,7 @@ struct ScanTotals {
   std::size_t unreadProjectFiles = 0;
   std::size_t unreadSources = 0;
   std::size_t unreadStringsFiles = 0;
+  std::size_t unreadPlaces = 0;  ///< directories, and what vanished before it was known what it is
   std::array<std::size_t, kCallRejections> rejectedCallsBy = {};  ///< by reason
   std::size_t rejectedCalls = 0;
   std::size_t rejectedEntries = 0;
@@ -38,6 +39,8 @@ struct ScanTotals {
 class ScanReport {
  public:
   void add(const ScanEvent& event);
+  /// What turned out in the end not to have been read, or not completely; a file that is known keeps its role.
+  void addUnread(const std::vector<FileFindings>& places);
 
   /// The files of which something was left out, in the order in which they were read.
   const std::vector<FileFindings>& files() const { return m_files; }

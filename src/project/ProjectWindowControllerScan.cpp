@@ -35,6 +35,7 @@ void ProjectWindowController::endParseLocalizeableStringList(ScanRun& scan) {
 
 void ProjectWindowController::installResult(ScanRun& scan) {
   m_window.outlets.stringTableView->beginUpdates();
+  scan.finishReport();
   m_scanReport = std::move(scan.report);
   m_readFiles = std::move(scan.readFiles);
   m_unread = scan.unread();

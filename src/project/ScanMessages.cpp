@@ -6,6 +6,10 @@
 
 namespace glossmill {
 
+namespace {
+constexpr std::size_t kShownUnits = 80;  ///< of a rejected line, as many as of a rejected call
+}
+
 ScanMessages::ScanMessages(const Bundle& bundle, SystemLog& systemLog, LogText logText)
     : m_bundle(bundle),
       m_systemLog(systemLog),
@@ -20,6 +24,10 @@ void ScanMessages::write(const ScanEvent& event) {
 
 void ScanMessages::writeEvent(const NoPackageFound&) {
   m_logText(localized("Unable to find .xcodeproj file in given directory"));
+}
+
+void ScanMessages::writeEvent(const DirectoryUnread& event) {
+  m_systemLog.write({"Error reading directory: %@\n%@", {event.directory.text(), event.error.sentence}});
 }
 
 void ScanMessages::writeEvent(const ProjectFileUnread& event) {
@@ -64,8 +72,9 @@ void ScanMessages::writeEvent(const LinesCounted& event) {
 }
 
 void ScanMessages::writeEvent(const EntryRejected& event) {
-  m_systemLog.write({"Bad formattet String in Localizable.strings ignored\n    %@", {event.text}});
-  m_logText({m_entryRejected, {event.text}});
+  m_systemLog.write(
+      Message("Bad formattet String in Localizable.strings ignored\n    %@", {event.text}).clippedTo(kShownUnits));
+  m_logText(Message(m_entryRejected, {event.text}).clippedTo(kShownUnits));
 }
 
 void ScanMessages::writeEvent(const EntryWithoutMatch& event) {

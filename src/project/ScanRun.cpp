@@ -2,6 +2,13 @@
 
 namespace glossmill {
 
+ScanRun::ScanRun(const ProjectRules& rules, const Parts& parts)
+    : m_rules(rules), m_parts(parts), m_reading(parts.files, parts.saves) {
+  m_reading.onUnlisted = [this](const FileUrl& directory, const Error& error) {
+    happened(DirectoryUnread{directory, error});
+  };
+}
+
 void ScanRun::parseFileList(const FileUrl& directory, ScanMemory& memory) {
   m_rules.readSources(directory, input(), memory, result);
   const std::optional<FileUrl>& package = memory.projectPackage;
@@ -12,6 +19,21 @@ void ScanRun::parseFileList(const FileUrl& directory, ScanMemory& memory) {
 
 ScanEnd ScanRun::parseLocalizableStringsList() {
   return m_rules.readStringsFiles(input(), result);
+}
+
+FileRole ScanRun::roleOf(const UnreadPlace& place) const {
+  if (place.kind == EntryKind::Directory) return FileRole::Directory;
+  if (readFiles.find(place.url)) return FileRole::StringsFile;
+  if (place.url.pathExtension() == "pbxproj") return FileRole::ProjectFile;
+  return place.kind == EntryKind::File ? FileRole::Source : FileRole::Unknown;
+}
+
+void ScanRun::finishReport() {
+  std::vector<FileFindings> places;
+  for (const UnreadPlace& place : m_reading.unread()) {
+    places.push_back({place.url, roleOf(place), Error{place.sentence}, {}, 0, 0});
+  }
+  report.addUnread(places);
 }
 
 void ScanRun::happened(const ScanEvent& event) {

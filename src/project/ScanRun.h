@@ -25,13 +25,14 @@ class ScanRun : private ScanListener {
     const ProjectOptions& options;
   };
 
-  ScanRun(const ProjectRules& rules, const Parts& parts)
-      : m_rules(rules), m_parts(parts), m_reading(parts.files, parts.saves) {}
+  ScanRun(const ProjectRules& rules, const Parts& parts);
 
   /// Phase one.
   void parseFileList(const FileUrl& directory, ScanMemory& memory);
   /// Phase two.
   ScanEnd parseLocalizableStringsList();
+  /// Behind the last phase: the report says of all that was not read what it is to the project.
+  void finishReport();
 
   ScanResult result;
   ScanReport report;
@@ -42,6 +43,7 @@ class ScanRun : private ScanListener {
  private:
   ScanInput input() { return {m_reading, m_parts.isoTable, m_parts.canceled, *this, m_parts.options}; }
   void happened(const ScanEvent& event) override;
+  FileRole roleOf(const UnreadPlace& place) const;
 
   const ProjectRules& m_rules;
   const Parts m_parts;

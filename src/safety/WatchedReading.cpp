@@ -29,9 +29,13 @@ class WatchedReader : public ByteReader {
   void lookAtEnd() {
     if (std::exchange(m_isAtEnd, true)) return;
     const Result<std::optional<FileStamp>> now = m_disk.stampOf(m_file);
-    if (!now) return m_watch.note(m_file, now.error().sentence);
-    if (!now.value()) return m_watch.note(m_file, "It vanished while it was read.");
-    if (now.value()->size != m_bytes) m_watch.note(m_file, "It was not read to its end, or it changed meanwhile.");
+    if (!now) {
+      m_watch.note(m_file, now.error().sentence);
+    } else if (!now.value()) {
+      m_watch.note(m_file, "It vanished while it was read.");
+    } else if (now.value()->size != m_bytes) {
+      m_watch.note(m_file, "It was not read to its end, or it changed meanwhile.");
+    }
   }
 
   WatchedReading& m_watch;
@@ -52,18 +56,21 @@ std::vector<UnreadPlace> WatchedReading::unread() const {
 void WatchedReading::clear() {
   const std::lock_guard lock(m_mutex);
   m_unread.clear();
+  m_paths.clear();
 }
 
-void WatchedReading::note(const FileUrl& url, const std::string& sentence) {
+bool WatchedReading::note(const FileUrl& url, const std::string& sentence, EntryKind kind) {
   const std::lock_guard lock(m_mutex);
-  const bool isKnown =
-      std::any_of(m_unread.begin(), m_unread.end(), [&url](const UnreadPlace& place) { return place.url == url; });
-  if (!isKnown) m_unread.push_back({url, sentence});
+  if (!m_paths.insert(url.path()).second) return false;
+  m_unread.push_back({url, sentence, kind});
+  return true;
 }
 
 Result<std::vector<DirectoryEntry>> WatchedReading::list(const FileUrl& directory) {
   Result<std::vector<DirectoryEntry>> entries = m_files.list(directory);
-  if (!entries) note(directory, entries.error().sentence);
+  if (entries) return entries;
+  const bool isNew = note(directory, entries.error().sentence, EntryKind::Directory);
+  if (isNew && onUnlisted) onUnlisted(directory, entries.error());
   return entries;
 }
 
@@ -73,11 +80,11 @@ EntryKind WatchedReading::kindOf(const FileUrl& url) {
   if (kind != EntryKind::Missing) return kind;
   const Result<std::optional<FileStamp>> stamp = m_disk.stampOf(url);
   if (!stamp) {
-    note(url, stamp.error().sentence);
+    note(url, stamp.error().sentence, EntryKind::Missing);
   } else if (stamp.value()) {
-    note(url, "The system did not say what it is.");
+    note(url, "The system did not say what it is.", EntryKind::Missing);
   } else if (!isStillListed(url)) {
-    note(url, "It vanished while the project was read.");
+    note(url, "It vanished while the project was read.", EntryKind::Missing);
   }
   return kind;
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <mutex>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "platform/Files.h"
@@ -13,6 +15,7 @@ namespace glossmill {
 struct UnreadPlace {
   FileUrl url;
   std::string sentence;
+  EntryKind kind = EntryKind::File;  ///< Missing: nobody knows
 
   bool operator==(const UnreadPlace&) const = default;
 };
@@ -25,10 +28,14 @@ class WatchedReading : public FileReading {
   /// Both outlive this.
   WatchedReading(FileReading& files, SaveDisk& disk) : m_files(files), m_disk(disk) {}
 
+  /// Called once for each directory that cannot be listed, on the thread that asks. Set it before the first reading.
+  std::function<void(const FileUrl& directory, const Error& error)> onUnlisted;
+
   /// Each place once, in the order of the first mishap.
   std::vector<UnreadPlace> unread() const;
   void clear();
-  void note(const FileUrl& url, const std::string& sentence);
+  /// False when the place is known already.
+  bool note(const FileUrl& url, const std::string& sentence, EntryKind kind = EntryKind::File);
 
   Result<std::vector<DirectoryEntry>> list(const FileUrl& directory) override;
   EntryKind kindOf(const FileUrl& url) override;
@@ -42,6 +49,7 @@ class WatchedReading : public FileReading {
   SaveDisk& m_disk;
   mutable std::mutex m_mutex;
   std::vector<UnreadPlace> m_unread;
+  std::unordered_set<std::string> m_paths;  ///< of m_unread
 };
 
 }  // namespace glossmill

@@ -14,7 +14,7 @@ std::string_view FormatArgument::text(NumberText& number) const {
 
 std::string formatText(std::string_view format, std::initializer_list<FormatArgument> arguments) {
   std::string text;
-  appendFormatted(text, format, arguments);
+  appendFormatted(text, format, arguments, kWholeArguments);
   return text;
 }
 

@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
+
+#include "text/Utf16.h"
 
 namespace glossmill {
 
@@ -31,6 +34,8 @@ class FormatArgument {
   std::variant<std::monostate, std::string_view, std::int64_t> m_value;
 };
 
+inline constexpr std::size_t kWholeArguments = std::string_view::npos;
+
 /// The length of the place for an argument that `format` begins with, 0 when it begins with none.
 inline std::size_t formatPlaceLength(std::string_view format) {
   return format.starts_with("%@") ? 2 : format.starts_with("%ld") ? 3 : 0;
@@ -38,9 +43,10 @@ inline std::size_t formatPlaceLength(std::string_view format) {
 
 /// Fills the "%@" and "%ld" of `format` with the arguments in their order and adds the result to `text`; "%%" gives one
 /// percent sign. A place without an argument and any other percent sign stay as they are, surplus arguments are
-/// ignored.
+/// ignored. Arguments longer than `mostUnits` UTF-16 units are clipped.
 template <typename Text>
-void appendFormatted(Text& text, std::string_view format, std::initializer_list<FormatArgument> arguments) {
+void appendFormatted(Text& text, std::string_view format, std::initializer_list<FormatArgument> arguments,
+                     std::size_t mostUnits) {
   const FormatArgument* next = arguments.begin();
   FormatArgument::NumberText number;
   while (!format.empty()) {
@@ -50,7 +56,10 @@ void appendFormatted(Text& text, std::string_view format, std::initializer_list<
     if (format.empty()) break;
     const std::size_t placeLength = formatPlaceLength(format);
     if (placeLength != 0 && next != arguments.end()) {
-      text.append(next->text(number));
+      const std::string_view whole = next->text(number);
+      // A text has no more units than bytes.
+      if (whole.size() <= mostUnits) text.append(whole);
+      if (whole.size() > mostUnits) text.append(clipUtf16(whole, mostUnits));
       ++next;
       format.remove_prefix(placeLength);
       continue;

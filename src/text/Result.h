@@ -9,7 +9,8 @@ namespace glossmill {
 /// What a caller may want to treat in a way of its own.
 enum class ErrorKind {
   Other,
-  Outside,  ///< it lies where it must not be touched
+  Outside,      ///< it lies where it must not be touched
+  Undecodable,  ///< it was read, but is no text
 };
 
 /// Why something could not be done: one sentence for a person, without a final line feed.

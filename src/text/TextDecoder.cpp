@@ -13,9 +13,10 @@ namespace {
 constexpr std::size_t kSampleBytes = 4096;
 constexpr char32_t kFirstStrange = 0x80;  ///< the first unit that is not ASCII
 
-const Error kMalformedUtf8{"The file is not valid UTF-8 and has no byte-order mark of another encoding."};
-const Error kMalformedUtf16{"The file is malformed UTF-16."};
-const Error kMalformedUtf32{"The file is malformed UTF-32."};
+const Error kMalformedUtf8{"The file is not valid UTF-8 and has no byte-order mark of another encoding.",
+                           ErrorKind::Undecodable};
+const Error kMalformedUtf16{"The file is malformed UTF-16.", ErrorKind::Undecodable};
+const Error kMalformedUtf32{"The file is malformed UTF-32.", ErrorKind::Undecodable};
 
 bool isHighSurrogate(char32_t unit) {
   return unit >= 0xD800 && unit <= 0xDBFF;

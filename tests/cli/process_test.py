@@ -141,6 +141,36 @@ class Output(ProcessTest):
         self.assertIn("x\ufffd[31m\ufffd", table)
         self.assertNotIn("\x1b", table)
 
+    def test_directions_of_text_are_shown_as_codes(self):
+        self.write("x\u202ey.lproj/Localizable.strings", '"Hello" = "Hi";\n')
+        self.assertIn("x<U+202E>y.lproj", self.output("scan", "--quiet"))
+        self.assertIn("x<U+202E>y.lproj", self.output("save", "--dry-run", "--quiet"))
+
+    def test_json_holds_no_control_character_that_a_terminal_knows(self):
+        self.write("en.lproj/Localizable.strings", '"Hello" = "\x7f\x80\x9f\xa0é";\n')
+        text = self.output("scan", "--json", "--quiet")
+        self.assertIn("\\u007f\\u0080\\u009f\xa0é", text)
+        self.assertEqual(json.loads(text)["strings"][0]["translations"]["en"], "\x7f\x80\x9f\xa0é")
+
+    def test_a_rejected_line_is_clipped_where_it_is_shown_and_whole_in_json(self):
+        self.write("en.lproj/Localizable.strings", "x" * 5000 + "\n")
+        run = subprocess.run([PROGRAM, "scan", "--json", "--verbose", str(self.project)], capture_output=True, check=True)
+        self.assertNotIn(b"x" * 81, run.stderr)
+        self.assertEqual(run.stderr.count(b"x" * 80), 2)
+        document = json.loads(run.stdout)
+        self.assertTrue(document["log"][-1].endswith("x" * 5000))
+        self.assertTrue(document["systemLog"][-1].endswith("x" * 5000))
+
+    @unittest.skipIf(os.geteuid() == 0, "nothing is kept from this user")
+    def test_a_directory_that_cannot_be_listed_is_named(self):
+        self.write("locked/a.m", "")
+        os.chmod(self.project / "locked", 0)
+        self.addCleanup(os.chmod, self.project / "locked", 0o755)
+        self.assertIn("1 place could not be read completely:\n  locked: ", self.output("scan", "--quiet"))
+        unread = json.loads(self.output("scan", "--json", "--quiet"))["unread"]
+        self.assertEqual([(file["file"], file["kind"], file["reason"]) for file in unread],
+                         [("locked", "directory", "unread")])
+
     def test_names_that_are_not_utf8_give_valid_json(self):
         self.write(b"\xff.lproj/Localizable.strings", '"Hello" = "Hi";\n')
         document = json.loads(self.output("scan", "--json", "--quiet"))

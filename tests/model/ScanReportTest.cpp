@@ -63,6 +63,21 @@ TEST(ScanReport, KeepsWhyAFileCouldNotBeRead) {
   EXPECT_EQ(report.files()[2].unread->sentence, "It is no text.");
 }
 
+TEST(ScanReport, TakesOverWhatWasNotReadAndKeepsWhatIsKnownOfAFile) {
+  ScanReport report;
+  report.add(CallRejected{kSource, "x", CallRejection::NoKey});
+  report.add(StringsFileUnread{kStringsFile, {"It is no text."}});
+  report.addUnread({{kStringsFile, FileRole::StringsFile, Error{"It is short."}, {}, 0, 0},
+                    {kSource, FileRole::Unknown, Error{"It changed."}, {}, 0, 0},
+                    {FileUrl("/P/locked"), FileRole::Directory, Error{"It is locked."}, {}, 0, 0}});
+  ASSERT_EQ(report.files().size(), 3U);
+  EXPECT_EQ(report.files()[0].role, FileRole::Source);
+  EXPECT_EQ(report.files()[0].unread->sentence, "It changed.");
+  EXPECT_EQ(report.files()[1].unread->sentence, "It is no text.");
+  EXPECT_EQ(report.files()[2].file, FileUrl("/P/locked"));
+  EXPECT_EQ(report.totals().unreadPlaces, 1U);
+}
+
 TEST(ScanReport, AddsUpTheFindingsOfAllFiles) {
   const FileUrl otherSource("/P/b.m");
   const FileUrl otherStringsFile("/P/fr.lproj/Localizable.strings");

@@ -245,6 +245,26 @@ TEST_F(ProjectScan, ReportsWhatItLeftOutUntilTheProjectIsClosed) {
   EXPECT_TRUE(project().scanReport().files().empty());
 }
 
+TEST_F(ProjectScan, ReportsWhatTheSystemDidNotGiveWithWhatItIsToTheProject) {
+  addPackage("a.m");
+  addFile("Harbour.app/a.m", "text");
+  addFile("Harbour.app/de.lproj/Localizable.strings", "\xFF");
+  addDirectory("Harbour.app/locked");
+  host.files.failListing(inP("Harbour.app/locked"), "No.");
+  host.files.onOpen = [this](const std::string& path) {
+    if (path == inP("Harbour.app/a.m")) host.files.failReadingAfter(path, 2, "Broken.");
+  };
+  open();
+  std::vector<std::pair<std::string, FileRole>> found;
+  for (const FileFindings& file : project().scanReport().files()) found.emplace_back(file.file.path(), file.role);
+  EXPECT_EQ(found, (std::vector<std::pair<std::string, FileRole>>{
+                       {inP("Harbour.app/a.m"), FileRole::Source},
+                       {inP("Harbour.app/de.lproj/Localizable.strings"), FileRole::StringsFile},
+                       {inP("Harbour.app/locked"), FileRole::Directory}}));
+  EXPECT_EQ(project().scanReport().files()[1].unread->kind, ErrorKind::Undecodable);
+  EXPECT_EQ(project().scanReport().files()[0].unread->kind, ErrorKind::Other);
+}
+
 TEST_F(ProjectScan, DoesNotTakeASourceThatIsGoneForTheOneBeingRead) {
   addPackage("a.m b.m");
   addSource("Harbour.app/a.m", "Open");

@@ -37,6 +37,15 @@ TEST_F(ScanMessages, NameEachStringsFileThatIsFoundAndRead) {
   EXPECT_EQ(systemLog(), (Lines{"Parsing file: file:///P/Harbour.app/de.lproj/Localizable.strings", "Lines: 1"}));
 }
 
+TEST_F(ScanMessages, NameADirectoryThatCannotBeListedInTheSystemLogOnly) {
+  addPackage("");
+  addFile("Harbour.app/locked/a.m");
+  host.files.failListing(inP("Harbour.app/locked"), "Permission denied.");
+  open();
+  EXPECT_EQ(log(), Lines());
+  EXPECT_EQ(systemLog(), Lines{"Error reading directory: file:///P/Harbour.app/locked\nPermission denied."});
+}
+
 TEST_F(ScanMessages, WriteAUrlWithItsStrangeBytesInPercentForm) {
   addPackage("");
   addFile("Harbour.app/Häfen & Kais/de.lproj/Localizable.strings", "\n\n");

@@ -32,7 +32,18 @@ TEST_F(WatchedReadingTest, WhatIsReadCompletelyLeavesNothing) {
 TEST_F(WatchedReadingTest, ADirectoryThatCannotBeListedIsNamedWithItsReason) {
   files.failListing("/x", "No.");
   EXPECT_FALSE(watch.list(FileUrl("/x")));
-  EXPECT_EQ(watch.unread(), (std::vector{UnreadPlace{FileUrl("/x"), "No."}}));
+  EXPECT_EQ(watch.unread(), (std::vector{UnreadPlace{FileUrl("/x"), "No.", EntryKind::Directory}}));
+}
+
+TEST_F(WatchedReadingTest, ADirectoryThatCannotBeListedIsToldOnce) {
+  files.failListing("/x", "No.");
+  std::vector<std::string> told;
+  watch.onUnlisted = [&told](const FileUrl& directory, const Error& error) {
+    told.push_back(directory.path() + ": " + error.sentence);
+  };
+  EXPECT_FALSE(watch.list(FileUrl("/x")));
+  EXPECT_FALSE(watch.list(FileUrl("/x")));
+  EXPECT_EQ(told, std::vector<std::string>{"/x: No."});
 }
 
 TEST_F(WatchedReadingTest, AFileThatCannotBeOpenedOrReadIsNamedOnce) {

@@ -8,6 +8,16 @@
 namespace glossmill {
 namespace {
 
+TEST(Message, IsShownWithItsArgumentsClippedWhereThatIsWanted) {
+  const std::string longText(100, 'x');
+  const Message whole("%@: %ld", {longText, std::int64_t{12345}});
+  EXPECT_EQ(whole.shownText(), longText + ": 12345");
+  const Message clipped = Message("%@: %@", {longText, "12345"}).clippedTo(4);
+  EXPECT_EQ(clipped.shownText(), "xxxx: 1234");
+  EXPECT_EQ(clipped.text(), longText + ": 12345");
+  EXPECT_EQ(Message("a text").clippedTo(2).shownText(), "a text");
+}
+
 TEST(Message, OfATextAloneIsThatText) {
   EXPECT_EQ(Message("50 %@ of %% %ld").text(), "50 %@ of %% %ld");
   EXPECT_EQ(Message(std::string("a")).text(), "a");
