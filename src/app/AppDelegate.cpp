@@ -43,6 +43,10 @@ bool AppDelegate::validateMenuItem(int tag) const {
       return project && project->canSelectPrevLanguage();
     case 14:
       return project && project->canSelectNextLanguage();
+    case 16:
+      return project && project->canUndo();
+    case 17:
+      return project && project->canRedo();
     case 20:
       return m_news.current() != nullptr;
     default:

@@ -39,8 +39,8 @@ constexpr Command kCommands[] = {
     {BaseLanguage, File, "Create &Base Language...", {"Ctrl+B"}, 7, false, onProject<&Project::createBaseLanguage>},
     {Quit, File, "&Quit", {"Ctrl+Q"}, 0, kStartsGroup, onApplication<&App::quit>},
 
-    {Undo, MenuId::Edit, "&Undo", {"Ctrl+Z"}},
-    {Redo, MenuId::Edit, "&Redo", {"Ctrl+Shift+Z"}},
+    {Undo, MenuId::Edit, "&Undo", {"Ctrl+Z"}, 16, false, onProject<&Project::undo>},
+    {Redo, MenuId::Edit, "&Redo", {"Ctrl+Shift+Z"}, 17, false, onProject<&Project::redo>},
     {Cut, MenuId::Edit, "Cu&t", {"Ctrl+X"}, 0, kStartsGroup},
     {Copy, MenuId::Edit, "&Copy", {"Ctrl+C"}},
     {Paste, MenuId::Edit, "&Paste", {"Ctrl+V"}},

@@ -55,6 +55,8 @@ class ArrayController {
   /// A row that does not exist clears the selection.
   void setSelectionIndex(std::size_t row);
   void clearSelection();
+  /// False, and nothing happens, when no row shows the object.
+  bool selectObject(const T* object);
   /// While nothing is selected, the step back goes to the last row and the step forward to the first one.
   bool canSelectPrevious() const { return m_selected ? *m_selected > 0 : !m_rows.empty(); }
   bool canSelectNext() const { return m_selected ? *m_selected + 1 < m_rows.size() : !m_rows.empty(); }
@@ -143,6 +145,15 @@ void ArrayController<T>::setSelectionIndex(std::size_t row) {
 template <typename T>
 void ArrayController<T>::clearSelection() {
   select(std::nullopt);
+}
+
+template <typename T>
+bool ArrayController<T>::selectObject(const T* object) {
+  const auto shown = [&](std::size_t place) { return (*m_content)[place].get() == object; };
+  const auto found = std::find_if(m_rows.begin(), m_rows.end(), shown);
+  if (found == m_rows.end()) return false;
+  select(static_cast<std::size_t>(found - m_rows.begin()));
+  return true;
 }
 
 template <typename T>

@@ -23,7 +23,17 @@ struct Edit {
 };
 
 /// What an edit is made by.
-enum class EditKind { Typing, Import, Fill };
+enum class EditKind {
+  Typing,
+  TypingBack,  ///< an editor takes back by itself what was typed into it
+  Import,
+  Fill,
+  Undo,  ///< or redo
+};
+
+constexpr bool isTyping(EditKind kind) {
+  return kind == EditKind::Typing || kind == EditKind::TypingBack;
+}
 
 /// The edit that gives the record this text in the language, or takes its entry away.
 Edit editOf(std::shared_ptr<LocalizeString> record, LanguageCode language, std::optional<std::string> after);

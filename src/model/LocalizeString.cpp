@@ -50,14 +50,14 @@ std::string LocalizeString::translationForSelectedString(const ProjectContext* p
   return std::string(record->languagesDict().find(language->code()).value_or(std::string_view()));
 }
 
-void LocalizeString::setTranslationForSelectedString(std::string_view text, ProjectContext* project) {
+void LocalizeString::setTranslationForSelectedString(std::string_view text, ProjectContext* project, EditKind kind) {
   if (!project) return;
   const std::shared_ptr<LocalizeString> record = project->selectedString();
   const std::shared_ptr<Language> language = project->selectedLanguage();
   if (!record || !language) return;
   std::optional<std::string> after;
   if (!text.empty()) after = std::string(text);
-  project->applyEdit(EditKind::Typing, editOf(record, language->code(), std::move(after)));
+  project->applyEdit(kind, editOf(record, language->code(), std::move(after)));
 }
 
 }  // namespace glossmill

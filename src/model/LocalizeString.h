@@ -62,7 +62,8 @@ class LocalizeString {
   /// "" when there is none, or no selection, or no project.
   std::string translationForSelectedString(const ProjectContext* project) const;
   /// Stores, or with the empty text removes, that translation: an edit that the project applies.
-  void setTranslationForSelectedString(std::string_view text, ProjectContext* project);
+  void setTranslationForSelectedString(std::string_view text, ProjectContext* project,
+                                       EditKind kind = EditKind::Typing);
 
  private:
   friend class EditDoor;

@@ -14,8 +14,11 @@ ProjectWindowController::ProjectWindowController(const Host& host, ApplicationSe
       m_rules(&projectRules(m_options.rules)) {
   m_stringController.addObserver([this](ArrayChange change) {
     if (change == ArrayChange::Content) m_counts.invalidate();
+    if (change == ArrayChange::Selection) m_history.endVisit();
   });
+  m_languageController.addObserver([this](ArrayChange) { m_history.endVisit(); });
   m_edits.addObserver([this](const Edit& edit, const EditStep& step) { editApplied(edit, step.kind); });
+  m_edits.addObserver([this](const Edit& edit, const EditStep& step) { m_history.add(edit, step); });
 }
 
 ProjectWindowController::~ProjectWindowController() {
@@ -60,6 +63,7 @@ void ProjectWindowController::clearProject() {
   m_readFiles.clear();
   m_unread.clear();
   m_scanReport = ScanReport();
+  m_history.clear();
   // The array itself stays with the choosers that were given it; the project gets an empty one.
   m_languageController.setContent(std::make_shared<LanguageArray>());
   setChanged(false);

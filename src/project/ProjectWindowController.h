@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "dialogs/LanguageDialogDelegates.h"
+#include "edit/EditHistory.h"
 #include "exchange/ImportReport.h"
 #include "model/ArrayController.h"
 #include "model/EditDoor.h"
@@ -151,6 +152,17 @@ class ProjectWindowController : public ProjectContext,
   /// The tool-bar item with tag 2 saves; every other one is always enabled.
   bool validateToolbarItem(int tag) const;
 
+  // ---- Undo and redo: ProjectWindowControllerHistory.cpp ----
+
+  /// Takes the newest step back, whatever row, language or save lies between, and shows what it was about.
+  void undo();
+  void redo();
+  bool canUndo() const { return undoStep() != nullptr; }
+  bool canRedo() const { return redoStep() != nullptr; }
+  /// The step that would be taken back or made again; null when there is none, or while a long job runs.
+  const HistoryStep* undoStep() const;
+  const HistoryStep* redoStep() const;
+
   // ---- Saving and closing: ProjectWindowControllerSaving.cpp ----
 
   bool saveLanguage(const std::shared_ptr<Language>& language);
@@ -221,7 +233,10 @@ class ProjectWindowController : public ProjectContext,
   void holdBackCompleteStrings();
   void giveBackStrings();
   void editApplied(const Edit& edit, EditKind kind);
+  void countApplied(const Edit& edit, EditKind kind);
   void step(const std::function<void()>& select);
+  void travel(const std::vector<Edit>& edits);
+  void showEdited(const std::vector<Edit>& edits);
   bool save(const LanguageArray& languages);
   SaveResult saveUnlessIncomplete(const SaveOrder& order, const std::vector<FileText>& plan);
   SaveResult writeFiles(const std::vector<FileText>& plan);
@@ -262,6 +277,7 @@ class ProjectWindowController : public ProjectContext,
   StringArray m_filteredStringList;  ///< held back from the string table by the filter
   mutable TranslationCounts m_counts;
   EditDoor m_edits;
+  EditHistory m_history;
   ProjectObservers m_observers;
 
   FileUrl m_projectDirectory;

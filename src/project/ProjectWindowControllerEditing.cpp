@@ -62,11 +62,20 @@ std::string ProjectWindowController::languageStatusString(const Language& langua
   return missing == 0 ? m_statusTexts.completeString : m_statusTexts.missingString(static_cast<std::int64_t>(missing));
 }
 
+/// An undone step may reach records that the filter has held back since, and those do not count.
+void ProjectWindowController::countApplied(const Edit& edit, EditKind kind) {
+  if (kind == EditKind::Undo) {
+    m_counts.invalidate();
+  } else {
+    m_counts.adjust(edit.language, edit.entryDifference());
+  }
+}
+
 /// Typing marks the project by way of the notification, every time; whatever else does marks it once.
 void ProjectWindowController::editApplied(const Edit& edit, EditKind kind) {
-  m_counts.adjust(edit.language, edit.entryDifference());
+  countApplied(edit, kind);
   if (!m_rules->marksChanged(kind, edit)) return;
-  if (kind == EditKind::Typing) {
+  if (isTyping(kind)) {
     m_host.notifications.post(kTranslationChangedNotification, edit.record.get());
   } else if (!m_changed) {
     setChanged(true);

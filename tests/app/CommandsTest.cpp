@@ -40,6 +40,8 @@ TEST(Commands, CarryTheTagsThatEnableThem) {
                                                 {CommandId::NextString, 12},
                                                 {CommandId::PreviousLanguage, 13},
                                                 {CommandId::NextLanguage, 14},
+                                                {CommandId::Undo, 16},
+                                                {CommandId::Redo, 17},
                                                 {CommandId::GoToMessage, 20},
                                                 {CommandId::Quit, 0}};
   for (const auto& [id, tag] : expected) EXPECT_EQ(command(id).tag, tag) << command(id).title;
@@ -207,9 +209,21 @@ TEST_F(CommandsOfAProject, MeetAnObstacleInTheToolBarWhileNoneIsOpen) {
   EXPECT_EQ(obstacleOf(toolBarItems().back()), kOpenAProjectFirst);
 }
 
+TEST_F(CommandsOfAProject, TakeBackAndMakeAgainWhatWasTyped) {
+  openByCommand();
+  EXPECT_FALSE(isEnabled(m_test.application, command(CommandId::Undo)));
+  m_test.type("Hinzufügen");
+  EXPECT_FALSE(isEnabled(m_test.application, command(CommandId::Redo)));
+  run(CommandId::Undo);
+  EXPECT_EQ(m_test.translation(m_test.keys().front(), "de"), std::nullopt);
+  EXPECT_FALSE(isEnabled(m_test.application, command(CommandId::Undo)));
+  run(CommandId::Redo);
+  EXPECT_EQ(m_test.translation(m_test.keys().front(), "de"), "Hinzufügen");
+}
+
 TEST_F(CommandsOfAProject, LeaveWhatTheFocusCarriesOutAlone) {
   openByCommand();
-  for (const CommandId id : {CommandId::Undo, CommandId::Paste, CommandId::Find, CommandId::About}) {
+  for (const CommandId id : {CommandId::Cut, CommandId::Paste, CommandId::Find, CommandId::About}) {
     EXPECT_EQ(command(id).action, nullptr);
     run(id);
   }

@@ -148,21 +148,6 @@ class EditingTest : public DesktopFixture {
     QVERIFY(translation.data(Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
   }
 
-  void undoesWithinOneStringOnly() {
-    openDemo();
-    edit(QStringLiteral("Open"), QStringLiteral("de"));
-    press(Qt::Key_End);
-    type(QStringLiteral("!"));
-    press(Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(stored(QStringLiteral("Open"), "de"), QStringLiteral("Auf"));
-    type(QStringLiteral("?"));
-    press(Qt::Key_Down, Qt::AltModifier);
-    QVERIFY(!isEnabled(CommandId::Undo));
-    press(Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(stored(QStringLiteral("Close"), "de"), QStringLiteral("Zu"));
-    QCOMPARE(stored(QStringLiteral("Open"), "de"), QStringLiteral("Auf?"));
-  }
-
   void showsTheLineBreaksOfAKey() {
     openDemo();
     select(strings(), QStringLiteral("First line\u21B5second line"));

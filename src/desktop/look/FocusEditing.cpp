@@ -74,6 +74,10 @@ bool canEdit(CommandId command) {
   return table && command == CommandId::Copy && table->currentIndex().isValid();
 }
 
+bool isSingleLineFocused() {
+  return qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr;
+}
+
 void edit(CommandId command) {
   QWidget* focused = QApplication::focusWidget();
   if (auto* text = qobject_cast<QPlainTextEdit*>(focused)) return editIn(*text, command);

@@ -10,4 +10,7 @@ namespace glossmill {
 bool canEdit(CommandId command);
 void edit(CommandId command);
 
+/// Whether the keyboard is in a field of one line, such as the one to search with.
+bool isSingleLineFocused();
+
 }  // namespace glossmill

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <utility>
 
+#include "app/CommandTitles.h"
 #include "desktop/host/QtText.h"
 #include "desktop/look/FocusEditing.h"
 
@@ -13,6 +14,11 @@ namespace {
 
 bool belongsToFocus(const Command& command) {
   return command.menu == MenuId::Edit && command.id != CommandId::Find;
+}
+
+/// Undo and redo go on to the project once the focus has nothing of its own to take back or to make again.
+bool goesOn(const Command& command) {
+  return command.action && belongsToFocus(command) && !isSingleLineFocused();
 }
 
 /// What a person may do while a sheet is up, besides what the sheet offers.
@@ -62,7 +68,8 @@ bool CommandActions::eventFilter(QObject* watched, QEvent* event) {
 bool CommandActions::isCommandKey(const QKeyEvent& event) const {
   const QKeySequence key(event.keyCombination());
   for (const Command& command : commands()) {
-    if (!belongsToFocus(command) && m_actions.at(command.id)->shortcuts().contains(key)) return true;
+    const bool isFields = belongsToFocus(command) && (canEdit(command.id) || !goesOn(command));
+    if (!isFields && m_actions.at(command.id)->shortcuts().contains(key)) return true;
   }
   return false;
 }
@@ -82,7 +89,7 @@ void CommandActions::trigger(const Command& command) {
   const auto handler = m_handlers.find(command.id);
   if (handler != m_handlers.end()) {
     handler->second();
-  } else if (belongsToFocus(command)) {
+  } else if (belongsToFocus(command) && canEdit(command.id)) {
     edit(command.id);
   } else {
     perform(m_delegate, command);
@@ -92,7 +99,8 @@ void CommandActions::trigger(const Command& command) {
 
 bool CommandActions::isEnabled(const Command& command) const {
   if (m_covered && !worksUnderSheet(command)) return false;
-  if (belongsToFocus(command)) return canEdit(command.id);
+  if (belongsToFocus(command) && canEdit(command.id)) return true;
+  if (belongsToFocus(command) && (m_covered || !goesOn(command))) return false;
   return glossmill::isEnabled(m_delegate, command);
 }
 
@@ -109,7 +117,11 @@ void CommandActions::validateSoon() {
 
 void CommandActions::validate() {
   m_validationQueued = false;
-  for (const Command& command : commands()) m_actions.at(command.id)->setEnabled(isEnabled(command));
+  for (const Command& command : commands()) {
+    QAction& action = *m_actions.at(command.id);
+    action.setEnabled(isEnabled(command));
+    action.setText(toQt(commandTitle(m_delegate, command, m_bundle)));
+  }
   if (validated) validated();
 }
 

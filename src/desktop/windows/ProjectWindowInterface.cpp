@@ -1,6 +1,7 @@
 #include "desktop/windows/ProjectWindowInterface.h"
 
 #include <QShortcut>
+#include <utility>
 
 #include "desktop/QuitPath.h"
 #include "desktop/look/Icons.h"
@@ -96,6 +97,7 @@ void ProjectWindowInterface::observeProject() {
   m_project.languageController().addObserver([this](ArrayChange change) { languagesChanged(change); });
   m_shell.notifications.addObserver(this, kTranslationChangedNotification,
                                     [this](const void*) { m_languages.redraw(); });
+  m_project.edits().addObserver([this](const Edit&, const EditStep& step) { editApplied(step.kind); });
   QObject::connect(m_widgets.translationTextView, &TranslationEditor::translationEdited, &m_mainWindow,
                    [this] { m_strings.translationEdited(); });
 }
@@ -113,6 +115,22 @@ void ProjectWindowInterface::languagesChanged(ArrayChange change) {
   m_strings.translationsChanged();
   m_details.languageSelected();
   m_shell.actions.validateSoon();
+}
+
+/// What the editor could take back by itself is not what stands there any more once a step was undone.
+void ProjectWindowInterface::editApplied(EditKind kind) {
+  m_shell.actions.validateSoon();
+  if (kind != EditKind::Undo) return;
+  m_widgets.translationTextView->document()->clearUndoRedoStacks();
+  if (std::exchange(m_refreshQueued, true)) return;
+  QMetaObject::invokeMethod(
+      &m_mainWindow, [this] { refresh(); }, Qt::QueuedConnection);
+}
+
+void ProjectWindowInterface::refresh() {
+  m_refreshQueued = false;
+  m_strings.translationsChanged();
+  m_languages.redraw();
 }
 
 void ProjectWindowInterface::sheetsChanged() {

@@ -37,6 +37,8 @@ class ProjectWindowInterface : public LoadedInterface {
   void stringsChanged(ArrayChange change);
   void languagesChanged(ArrayChange change);
   void sheetsChanged();
+  void editApplied(EditKind kind);
+  void refresh();
 
   ProjectWindowController& m_project;
   Shell& m_shell;
@@ -48,6 +50,7 @@ class ProjectWindowInterface : public LoadedInterface {
   LanguagePane m_languages;
   DetailPane m_details;
   ProjectToolBar m_toolBar;
+  bool m_refreshQueued = false;
 };
 
 }  // namespace glossmill

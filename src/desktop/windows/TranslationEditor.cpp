@@ -25,9 +25,11 @@ void TranslationEditor::translationChanged() {
   load();
 }
 
+/// Only what was just taken back can be made again: any other key puts an end to that.
 void TranslationEditor::store() {
   if (m_loading || !m_shownString || m_project->selectedString() != m_shownString) return;
-  m_shownString->setTranslationForSelectedString(fromQt(fromEditorText(document()->toRawText())), m_project);
+  const EditKind kind = document()->isRedoAvailable() ? EditKind::TypingBack : EditKind::Typing;
+  m_shownString->setTranslationForSelectedString(fromQt(fromEditorText(document()->toRawText())), m_project, kind);
   Q_EMIT translationEdited();
 }
 
