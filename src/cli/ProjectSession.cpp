@@ -76,6 +76,7 @@ ProjectOptions ProjectSession::projectOptions() const {
   ProjectOptions options;
   if (m_options.writing) options.allowance = m_options.writing->allowance();
   options.asksToSave = false;
+  options.lockPatience = std::nullopt;
   options.pretendsToSave = m_options.pretends();
   options.command = m_options.command;
   options.version = GLOSSMILL_VERSION;

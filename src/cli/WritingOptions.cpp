@@ -3,7 +3,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <chrono>
-#include <thread>
 
 #include "cli/DisplayText.h"
 #include "cli/Paths.h"
@@ -13,12 +12,12 @@ namespace glossmill {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-constexpr std::chrono::milliseconds kBetweenTries{50};
-
+/// Empty for what cannot be allowed.
 std::string allowanceFor(SaveRefusal::Kind kind) {
   switch (kind) {
+    case SaveRefusal::Kind::Busy:
+    case SaveRefusal::Kind::Unfinished:
+      return {};
     case SaveRefusal::Kind::Incomplete:
       return "incomplete";
     case SaveRefusal::Kind::Outside:
@@ -55,13 +54,8 @@ void addWritingOptions(CLI::App& command, WritingOptions& options) {
 }
 
 ExitCode takeLock(ProjectLock& lock, const FileUrl& project, const WritingOptions& options, Console& console) {
-  const auto patience = std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(options.waitSeconds));
-  const Clock::time_point end = Clock::now() + patience;
-  const auto held = lock.acquire([end] {
-    if (Clock::now() >= end) return false;
-    std::this_thread::sleep_for(kBetweenTries);
-    return true;
-  });
+  const std::chrono::duration<double> patience(options.waitSeconds);
+  const auto held = lock.acquire(std::chrono::duration_cast<std::chrono::steady_clock::duration>(patience));
   if (!held) {
     console.error("cannot lock " + inQuotes(project.path()) + ": " + held.error().sentence);
     return ExitCode::Unusable;
@@ -76,7 +70,8 @@ void explainRefusal(const SaveRefusal& refusal, const FileUrl& project, Console&
   for (const SaveRefusal::Place& place : refusal.places) {
     console.error("not written: " + inQuotes(shownPath(project, place.file)) + ": " + place.sentence);
   }
-  console.error("nothing was written; to write all the same: --allow " + allowanceFor(refusal.kind));
+  const std::string allowance = allowanceFor(refusal.kind);
+  console.error("nothing was written" + (allowance.empty() ? "" : "; to write all the same: --allow " + allowance));
 }
 
 }  // namespace glossmill

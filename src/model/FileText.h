@@ -38,6 +38,7 @@ struct FileOutcome {
   Kind kind = Kind::Unchanged;
   Error error;                       ///< of a failure
   std::vector<FileUrl> directories;  ///< that were made for it
+  std::optional<FileStamp> stamp;    ///< of the file that holds the text now
   bool hasOtherNames = false;        ///< the file had hard links, which keep the former text
 
   bool isWritten() const { return kind != Kind::Failed && kind != Kind::DirectoryFailed; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,9 +24,12 @@ struct XcodeOptions {
 /// What a user chose for a project before it is opened.
 struct ProjectOptions {
   RuleSet rules = RuleSet::Classic;
-  XcodeOptions xcode;           ///< only those rules look at it
-  SaveAllowance allowance;      ///< what a save may do without asking
-  bool asksToSave = true;       ///< what is not allowed is asked; otherwise the save is refused
+  XcodeOptions xcode;       ///< only those rules look at it
+  SaveAllowance allowance;  ///< what a save may do without asking
+  bool asksToSave = true;   ///< what is not allowed is asked; otherwise the save is refused
+  /// How long a save waits for another program that writes the project; nothing: whoever opened the project holds the
+  /// lock, and has looked for a save that was cut short.
+  std::optional<std::chrono::milliseconds> lockPatience = std::chrono::seconds(2);
   bool pretendsToSave = false;  ///< a save only tells what it would do
   std::string command;          ///< by which words the project was opened, for the record of its saves
   std::string version;          ///< of the program, for the same

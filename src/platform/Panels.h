@@ -26,6 +26,8 @@ struct SavePanelRequest {
   std::string proposedName;
 };
 
+enum class AlertAnswer { Default, Alternate, Other };
+
 /// A question with up to three buttons; an empty title means that there is no such button.
 struct AlertRequest {
   std::string message;
@@ -39,9 +41,8 @@ struct AlertRequest {
     Error error;
   };
   std::optional<Cause> cause = std::nullopt;
+  AlertAnswer escape = AlertAnswer::Other;  ///< what leaving the question stands for
 };
-
-enum class AlertAnswer { Default, Alternate, Other };
 
 /// Panels and alerts. Main thread.
 class Panels {

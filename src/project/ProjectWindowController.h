@@ -105,6 +105,9 @@ class ProjectWindowController : public ProjectContext,
   bool openProjectAt(const FileUrl& directory, const ProjectOptions& options = {});
   /// By which rules, and how else, the project was opened.
   const ProjectOptions& projectOptions() const { return m_options; }
+  /// Reads the open project anew and selects again what was selected. Asks before unsaved edits are lost; false when
+  /// everything stays as it is.
+  bool reloadProject();
   bool parseProject();
   /// The sheet's cancel button.
   void longTimeCanceled() { m_longJob.cancel(); }
@@ -218,6 +221,12 @@ class ProjectWindowController : public ProjectContext,
                                                std::shared_ptr<Language> language) override;
 
  private:
+  /// A row of each table.
+  struct SelectedPlace {
+    std::string key;
+    std::string language;  ///< code
+  };
+
   void windowDidLoad();
   void loadIsoTable();
   std::string localized(std::string_view key) const { return m_host.bundle.localizedString(key); }
@@ -229,6 +238,8 @@ class ProjectWindowController : public ProjectContext,
   void beginLongJob(std::string_view titleKey);
   void beginCountingJob(std::string_view titleKey);
   void installResult(ScanRun& scan);
+  bool mayLoseEdits();
+  void selectAsBefore();
 
   void holdBackCompleteStrings();
   void giveBackStrings();
@@ -238,11 +249,8 @@ class ProjectWindowController : public ProjectContext,
   void travel(const std::vector<Edit>& edits);
   void showEdited(const std::vector<Edit>& edits);
   bool save(const LanguageArray& languages);
-  SaveResult saveUnlessIncomplete(const SaveOrder& order, const std::vector<FileText>& plan);
   SaveResult writeFiles(const std::vector<FileText>& plan);
   void rememberSave(const std::vector<FileText>& plan, const SaveResult& result);
-  std::string saveQuestion(SaveRefusal::Kind kind) const;
-  bool mayGoOn(const SaveRefusal& refusal);
   void tellOfSave(const Language& language, const FileOutcome& outcome);
 
   void showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name);
@@ -290,6 +298,7 @@ class ProjectWindowController : public ProjectContext,
   std::vector<UnreadPlace> m_unread;  ///< of the open project
   SaveReport m_lastSave;
   ImportReport m_importReport;
+  std::optional<SelectedPlace> m_selectedBefore;  ///< the reading anew
   bool m_changed = false;
   bool m_opened = false;
 };

@@ -2,21 +2,10 @@
 
 #include "edit/SavePlan.h"
 #include "project/ProjectWindowController.h"
+#include "project/ProtectedSave.h"
 #include "text/Format.h"
 
 namespace glossmill {
-
-namespace {
-
-SaveAllowance allowanceWith(SaveAllowance allowance, SaveRefusal::Kind kind) {
-  if (kind == SaveRefusal::Kind::Incomplete) allowance.incomplete = true;
-  if (kind == SaveRefusal::Kind::Outside) allowance.outside = true;
-  if (kind == SaveRefusal::Kind::Changed) allowance.changed = true;
-  if (kind == SaveRefusal::Kind::NoCopy) allowance.noCopy = true;
-  return allowance;
-}
-
-}  // namespace
 
 bool ProjectWindowController::saveLanguage(const std::shared_ptr<Language>& language) {
   const bool written = save({language});
@@ -42,7 +31,6 @@ bool ProjectWindowController::save(const LanguageArray& languages) {
     text.entriesBefore = known ? known->entries : std::nullopt;
   }
   const SaveResult result = writeFiles(plan);
-  m_lastSave = {result.refusal, {}, result.id};
   if (result.refusal) return false;
   rememberSave(plan, result);
   bool allWritten = true;
@@ -53,25 +41,11 @@ bool ProjectWindowController::save(const LanguageArray& languages) {
   return allWritten;
 }
 
-/// What could not be read is not in the table, so a save would take it out of the files.
-SaveResult ProjectWindowController::saveUnlessIncomplete(const SaveOrder& order, const std::vector<FileText>& plan) {
-  if (m_unread.empty() || order.allowance.incomplete) {
-    return SaveTransaction(m_host.files, m_host.saves, order).save(plan);
-  }
-  SaveResult refused;
-  refused.refusal = SaveRefusal{SaveRefusal::Kind::Incomplete, {}};
-  for (const UnreadPlace& place : m_unread) refused.refusal->places.push_back({place.url, place.sentence});
-  return refused;
-}
-
 SaveResult ProjectWindowController::writeFiles(const std::vector<FileText>& plan) {
-  SaveOrder order{m_projectDirectory, m_options.version,   m_options.command,
-                  m_host.saves.now(), m_options.allowance, m_options.pretendsToSave};
-  SaveResult result = saveUnlessIncomplete(order, plan);
-  while (result.refusal && m_options.asksToSave && mayGoOn(*result.refusal)) {
-    order.allowance = allowanceWith(order.allowance, result.refusal->kind);
-    result = saveUnlessIncomplete(order, plan);
-  }
+  ProtectedSave protectedSave(m_host, m_options, m_projectDirectory, m_unread);
+  SaveResult result = protectedSave.save(plan);
+  m_lastSave = {result.refusal, {}, result.id};
+  if (protectedSave.wantsReload()) reloadProject();
   return result;
 }
 
@@ -82,35 +56,8 @@ void ProjectWindowController::rememberSave(const std::vector<FileText>& plan, co
     const std::optional<std::uint64_t> before = isNew ? 0 : text.entriesBefore;
     m_lastSave.languages.push_back({text.language, text.file, result.files[at], before, text.entriesAfter});
     if (m_options.pretendsToSave || !result.files[at].isWritten()) continue;
-    const Result<std::optional<FileStamp>> stamp = m_host.saves.stampOf(text.file);
-    if (stamp) m_readFiles.set(text.file, {stamp.value(), text.entriesAfter});
+    m_readFiles.set(text.file, {result.files[at].stamp, text.entriesAfter});
   }
-}
-
-std::string ProjectWindowController::saveQuestion(SaveRefusal::Kind kind) const {
-  switch (kind) {
-    case SaveRefusal::Kind::Incomplete:
-      return localized("Parts of the project could not be read, and a save would lose what they hold. Save anyway?");
-    case SaveRefusal::Kind::Outside:
-      return localized("Files outside the project would be written. Save anyway?");
-    case SaveRefusal::Kind::Changed:
-      return localized("Files were changed by another program. Overwrite them?");
-    case SaveRefusal::Kind::NoCopy:
-      break;
-  }
-  return localized("What is replaced cannot be kept, so that the save could not be taken back. Save anyway?");
-}
-
-/// Names what stands in the way; leaving everything as it is comes first.
-bool ProjectWindowController::mayGoOn(const SaveRefusal& refusal) {
-  AlertRequest question;
-  question.message = saveQuestion(refusal.kind);
-  for (const SaveRefusal::Place& place : refusal.places) {
-    question.informativeText += place.file.path() + "\n" + place.sentence + "\n";
-  }
-  question.defaultButton = localized("Cancel");
-  question.alternateButton = localized("Save Anyway");
-  return m_host.panels.runAlert(question) == AlertAnswer::Alternate;
 }
 
 void ProjectWindowController::tellOfSave(const Language& language, const FileOutcome& outcome) {

@@ -48,6 +48,7 @@ void ProjectWindowController::installResult(ScanRun& scan) {
   m_stringController.setSelectionIndex(0);
   m_languageController.setContent(result.languagesList);
   m_languageController.setSelectionIndex(0);
+  selectAsBefore();
   m_window.outlets.stringFilterPopUp->selectItemAtIndex(
       static_cast<int>(storedNumber(m_host.defaults, SettingId::StringFilter)));
   changeStringFilter();

@@ -2,12 +2,21 @@
 
 #include <charconv>
 #include <string>
+#include <thread>
 #include <utility>
 
 #include "platform/ReadText.h"
 #include "safety/ProjectState.h"
 
 namespace glossmill {
+
+namespace {
+
+using LockClock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds kBetweenTries{50};
+
+}  // namespace
 
 ProjectLock::ProjectLock(Files& files, SaveDisk& disk, const FileUrl& project)
     : m_files(files), m_disk(disk), m_project(project) {}
@@ -25,6 +34,15 @@ Result<std::optional<ProjectLock::Held>> ProjectLock::acquire(const GoesOn& goes
   }
   noteHolder();
   return std::optional<Held>();
+}
+
+Result<std::optional<ProjectLock::Held>> ProjectLock::acquire(LockClock::duration patience) {
+  const LockClock::time_point end = LockClock::now() + patience;
+  return acquire([end] {
+    if (LockClock::now() >= end) return false;
+    std::this_thread::sleep_for(kBetweenTries);
+    return true;
+  });
 }
 
 /// The note goes first: whoever gets the lock next writes one of its own.

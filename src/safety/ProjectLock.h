@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -29,6 +30,8 @@ class ProjectLock {
 
   /// Nothing when the lock is held by this object now. A directory that cannot be locked is an error.
   Result<std::optional<Held>> acquire(const GoesOn& goesOn);
+  /// The same, trying for as long as this; the thread sleeps meanwhile.
+  Result<std::optional<Held>> acquire(std::chrono::steady_clock::duration patience);
   void release();
   bool isHeld() const { return m_lock != nullptr; }
 

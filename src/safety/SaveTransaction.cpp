@@ -91,6 +91,7 @@ void SaveTransaction::prepareText(const FileText& text, Step& step) {
   const Result<ContentHash> after = hashOfContent(text.bytes());
   if (!after) return step.fail(FileOutcome::Kind::Failed, after.error());
   const bool exists = m_files.kindOf(text.file) != EntryKind::Missing;
+  noteStamp(text.file, step);
   if (exists) lookAtFormer(text.file, step);
   if (step.saved.before == after.value()) return;
   step.saved.after = after.value();
@@ -115,6 +116,12 @@ void SaveTransaction::prepareText(const FileText& text, Step& step) {
   step.saved.temporary = step.write->temporary();
   if (former) step.saved.mode = former->mode;
   step.outcome.hasOtherNames = former && former->links > 1;
+}
+
+/// Taken as close to the text as can be: what others write afterwards is theirs.
+void SaveTransaction::noteStamp(const FileUrl& file, Step& step) {
+  const auto stamp = m_disk.stampOf(file);
+  step.outcome.stamp = stamp ? stamp.value() : std::nullopt;
 }
 
 /// What cannot be read cannot be kept either, which is found out when it is to be copied.
@@ -219,6 +226,7 @@ void SaveTransaction::putInPlace(Step& step) {
   if (!done) return step.fail(FileOutcome::Kind::Failed, done.error());
   using enum FileOutcome::Kind;
   step.outcome.kind = step.isRemoval ? Removed : step.write->former() ? Changed : Created;
+  noteStamp(step.saved.file, step);
 }
 
 }  // namespace glossmill

@@ -17,13 +17,21 @@ namespace glossmill {
 
 /// Why nothing was written at all.
 struct SaveRefusal {
-  enum class Kind { Incomplete, Outside, Changed, NoCopy };
+  enum class Kind {
+    Incomplete,
+    Outside,
+    Changed,
+    NoCopy,
+    Busy,        ///< another program writes the project
+    Unfinished,  ///< an earlier save was cut short, and is to be finished or taken back first
+  };
   Kind kind = Kind::Outside;
   struct Place {
     FileUrl file;
     std::string sentence;
   };
   std::vector<Place> places;
+  std::optional<std::int64_t> writer = std::nullopt;  ///< the process that writes, where it is known
 };
 
 /// Everything about a save but the texts.
@@ -58,6 +66,7 @@ class SaveTransaction {
   void lookForChange(const FileText& text);
   bool isUnexpected(const FileText& text, const std::optional<FileStamp>& now) const;
   void refuseChanged(const FileText& text);
+  void noteStamp(const FileUrl& file, Step& step);
   void lookAtFormer(const FileUrl& file, Step& step);
   void prepare(const FileText& text, Step& step);
   void prepareText(const FileText& text, Step& step);

@@ -89,7 +89,7 @@ class ClosingTest : public DesktopFixture {
     QVERIFY(QFile::remove(demo().file(m_german)));
     demo().write(m_german + QStringLiteral("/in the way"), "");
     answerAlert(QStringLiteral("Save"));
-    answerAlert(QStringLiteral("Save Anyway"));
+    answerAlert(QStringLiteral("Overwrite"));
     answerAlert(QStringLiteral("Ok"));
     press(Qt::Key_W, Qt::ControlModifier);
     QCOMPARE(alerts().last(), QStringLiteral("Error saving Localizable.strings for language German"));

@@ -73,6 +73,7 @@ void InMemorySaveDisk::goOn() {
 
 Outcome InMemorySaveDisk::begin(const std::string& operation) {
   ++m_done;
+  if (onOperation) onOperation(operation);
   if (m_done == m_killed) {
     m_isDead = true;
     throw Killed();

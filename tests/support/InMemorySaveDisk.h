@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,6 +26,10 @@ class InMemorySaveDisk : public SaveDisk {
   /// The operation with this number, from 1, fails with the sentence.
   void failAt(int operation, std::string_view sentence = "The disk is broken.") { m_failure = {operation, sentence}; }
   void killBefore(int operation) { m_killed = operation; }
+  /// Called before each operation is noted.
+  std::function<void(const std::string&)> onOperation;
+  /// The operation that is about to begin is not done.
+  void killNow() { m_killed = m_done; }
   /// The process that was killed is gone, and another one goes on.
   void goOn();
   void setStateDirectory(std::optional<FileUrl> directory) { m_stateDirectory = std::move(directory); }

@@ -37,6 +37,7 @@ void ScriptedPanels::beginSavePanel(const SavePanelRequest& request, std::functi
 
 AlertAnswer ScriptedPanels::runAlert(const AlertRequest& request) {
   alerts.push_back(request);
+  if (onAlert) onAlert(request);
   if (request.alternateButton.empty() && request.otherButton.empty()) return AlertAnswer::Default;
   return takeAnswer(m_alertAnswers, "alert", request.message, AlertAnswer::Default);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -29,6 +30,9 @@ class ScriptedPanels : public Panels {
   std::vector<OpenPanelRequest> openPanels;
   std::vector<SavePanelRequest> savePanels;
   std::vector<AlertRequest> alerts;
+
+  /// Called while an alert is up.
+  std::function<void(const AlertRequest&)> onAlert;
 
   std::optional<FileUrl> runOpenPanel(const OpenPanelRequest& request) override;
   void beginSavePanel(const SavePanelRequest& request, std::function<void(std::optional<FileUrl>)> done) override;

@@ -25,6 +25,12 @@ void prepareForDirectory(QFileDialog& panel, const OpenPanelRequest& request) {
   panel.setOption(QFileDialog::ShowDirsOnly, !request.canChooseFiles);
 }
 
+/// Where the button stands goes by it.
+QMessageBox::ButtonRole roleOf(AlertAnswer answer, const AlertRequest& request) {
+  if (answer == request.escape) return QMessageBox::RejectRole;
+  return answer == AlertAnswer::Default ? QMessageBox::AcceptRole : QMessageBox::ActionRole;
+}
+
 QPushButton* addButton(QMessageBox& box, const std::string& title, QMessageBox::ButtonRole role) {
   return title.empty() ? nullptr : box.addButton(toQt(title), role);
 }
@@ -84,10 +90,12 @@ AlertAnswer WidgetPanels::runAlert(const AlertRequest& request) {
   box.setText(shownText(request.message));
   setInformativeText(box, request.informativeText);
   box.setIconPixmap(QApplication::windowIcon().pixmap(QSize(48, 48), box.devicePixelRatioF()));
-  box.setDefaultButton(addButton(box, request.defaultButton, QMessageBox::AcceptRole));
+  QPushButton* first = addButton(box, request.defaultButton, roleOf(AlertAnswer::Default, request));
   const QPushButton* alternate = addButton(box, request.alternateButton, QMessageBox::DestructiveRole);
-  QPushButton* other = addButton(box, request.otherButton, QMessageBox::RejectRole);
-  if (other) box.setEscapeButton(other);
+  QPushButton* other = addButton(box, request.otherButton, roleOf(AlertAnswer::Other, request));
+  box.setDefaultButton(first);
+  if (request.escape == AlertAnswer::Default) box.setEscapeButton(first);
+  if (request.escape == AlertAnswer::Other && other) box.setEscapeButton(other);
   ++m_alertsUp;
   m_mailbox.rearm();
   box.exec();
