@@ -1,0 +1,113 @@
+#include "checks/InvisibleCheck.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "checks/Characters.h"
+
+namespace glossmill {
+
+namespace {
+
+bool isControl(char32_t character) {
+  const bool isC0 = character < 0x20 && character != U'\t' && !isLineBreak(character);
+  return isC0 || (character >= 0x7F && character <= 0x9F);
+}
+
+bool beginsEmbedding(char32_t character) {
+  return character == 0x202A || character == 0x202B || character == 0x202D || character == 0x202E;
+}
+
+bool beginsIsolate(char32_t character) {
+  return character >= 0x2066 && character <= 0x2068;
+}
+
+constexpr char32_t kEndOfEmbedding = 0x202C;
+constexpr char32_t kEndOfIsolate = 0x2069;
+
+/// "U+202E"
+std::string codeOf(char32_t character) {
+  char code[16];
+  std::snprintf(code, sizeof code, "U+%04lX", static_cast<unsigned long>(character));
+  return code;
+}
+
+/// French sets a no-break space between these marks and the word.
+bool frenchWantsSpace(const std::vector<Character>& characters, std::size_t at) {
+  constexpr std::u32string_view kMarksBehind = U":;!?»";
+  const bool isBefore =
+      at + 1 < characters.size() && kMarksBehind.find(characters[at + 1].value) != std::u32string_view::npos;
+  return isBefore || (at > 0 && characters[at - 1].value == U'«');
+}
+
+/// A glance that is enough for nearly all texts: no byte is a control character's, nor begins one of the characters
+/// that are looked for. Those lie below U+00A1, at U+2000 to U+207F, and at U+FFFD.
+bool isPlain(std::string_view text) {
+  return std::none_of(text.begin(), text.end(), [](char byte) {
+    const auto value = static_cast<unsigned char>(byte);
+    return value < 0x20 || value == 0x7F || value == 0xC2 || value == 0xE2 || value == 0xEF;
+  });
+}
+
+/// Looks through one translation from its front to its end.
+class InvisibleSearch {
+ public:
+  explicit InvisibleSearch(const CheckedText& text)
+      : m_characters(charactersOf(text.translation, text.form)),
+        m_isFrench(baseOfCode(text.language) == "fr"),
+        m_spacesArePlain(hasPlainBlanksOnly(text)) {}
+
+  std::vector<Finding> findings() {
+    for (std::size_t at = 0; at < m_characters.size(); ++at) look(at);
+    for (const Character& open : m_open) add(FindingKind::DirectionLeftOpen, open);
+    return std::move(m_findings);
+  }
+
+ private:
+  static bool hasPlainBlanksOnly(const CheckedText& text) {
+    const std::vector<Character> source = charactersOf(text.source, text.form);
+    const auto has = [&source](auto isWanted) {
+      return std::any_of(source.begin(), source.end(), [&](const Character& one) { return isWanted(one.value); });
+    };
+    return has([](char32_t value) { return value == U' '; }) && !has(isNoBreakSpace);
+  }
+
+  void look(std::size_t at) {
+    const Character& character = m_characters[at];
+    if (isControl(character.value)) add(FindingKind::ControlCharacter, character);
+    if (character.value == 0xFFFD) add(FindingKind::ReplacementCharacter, character);
+    if (isNoBreakSpace(character.value) && m_spacesArePlain && !(m_isFrench && frenchWantsSpace(m_characters, at))) {
+      add(FindingKind::NoBreakSpace, character);
+    }
+    followDirections(character);
+  }
+
+  void followDirections(const Character& character) {
+    if (beginsEmbedding(character.value) || beginsIsolate(character.value)) m_open.push_back(character);
+    const bool endsEmbedding = character.value == kEndOfEmbedding;
+    if (!endsEmbedding && character.value != kEndOfIsolate) return;
+    const auto begin = std::find_if(m_open.rbegin(), m_open.rend(), [endsEmbedding](const Character& open) {
+      return endsEmbedding ? beginsEmbedding(open.value) : beginsIsolate(open.value);
+    });
+    if (begin != m_open.rend()) m_open.erase(std::next(begin).base());
+  }
+
+  void add(FindingKind kind, const Character& character) {
+    m_findings.push_back({Check::Invisible, Severity::Warning, kind, codeOf(character.value), {}, {}, character.range});
+  }
+
+  std::vector<Character> m_characters;
+  bool m_isFrench;
+  bool m_spacesArePlain;
+  std::vector<Character> m_open;  ///< beginnings of directions
+  std::vector<Finding> m_findings;
+};
+
+}  // namespace
+
+std::vector<Finding> invisibleFindings(const CheckedText& text) {
+  if (isPlain(text.translation)) return {};
+  return InvisibleSearch(text).findings();
+}
+
+}  // namespace glossmill
