@@ -23,7 +23,7 @@ ExitCode fill(const FillOptions& options, Console& console) {
   const ExitCode finished = session.finishJob();
   if (finished != ExitCode::Fine) return finished;
   const std::size_t filled = before - session.project().missingTranslations(*opened.language);
-  console.data("new entries  " + std::to_string(filled) + "\n\n");
+  session.addCounts("new entries  " + std::to_string(filled) + "\n\n", {{"newEntries", filled}});
   return session.saveProject();
 }
 

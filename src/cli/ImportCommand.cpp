@@ -18,13 +18,16 @@ struct ImportOptions {
   WritingOptions writing;
 };
 
-void printCounts(const ImportReport& counts, Console& console) {
+void addCounts(const ImportReport& counts, ProjectSession& session) {
   TextTable table({TextTable::Align::Left, TextTable::Align::Right});
   table.addRow({{"new entries"}, {std::to_string(counts.added)}});
   table.addRow({{"changed entries"}, {std::to_string(counts.changed)}});
   table.addRow({{"unchanged entries"}, {std::to_string(counts.unchanged)}});
   table.addRow({{"entries unknown to the project"}, {std::to_string(counts.unknown)}});
-  console.data(table.text(console) + "\n");
+  session.addCounts(table.text(session.console()) + "\n", {{"newEntries", counts.added},
+                                                           {"changedEntries", counts.changed},
+                                                           {"unchangedEntries", counts.unchanged},
+                                                           {"unknownEntries", counts.unknown}});
 }
 
 ExitCode unreadable(const ImportOptions& options, const Error& error, Console& console) {
@@ -43,7 +46,7 @@ ExitCode importLanguage(const ImportOptions& options, Console& console) {
   if (finished != ExitCode::Fine) return finished;
   const ImportReport& report = session.project().importReport();
   if (report.unread) return unreadable(options, *report.unread, console);
-  printCounts(report, console);
+  addCounts(report, session);
   return session.saveProject();
 }
 

@@ -74,7 +74,10 @@ ExitCode ProjectSession::open(const std::string& directory) {
 
 ProjectOptions ProjectSession::projectOptions() const {
   ProjectOptions options;
-  if (m_options.writing) options.allowance = m_options.writing->allowance();
+  if (m_options.writing) {
+    options.allowance = m_options.writing->allowance();
+    options.maxDropped = m_options.writing->maxDropped;
+  }
   options.asksToSave = false;
   options.lockPatience = std::nullopt;
   options.pretendsToSave = m_options.pretends();
@@ -130,9 +133,19 @@ ExitCode ProjectSession::saveProject() {
   return allWritten ? ExitCode::Fine : ExitCode::Unusable;
 }
 
+void ProjectSession::addCounts(const std::string& text, const Json& counts) {
+  m_countsText += text;
+  m_counts.update(counts);
+}
+
 void ProjectSession::reportFiles() const {
-  printWriting({project().projectDirectory(), m_files.written(), project().lastSave(), m_options.pretends()},
-               m_console);
+  const Writing writing{project().projectDirectory(), m_files.written(), project().lastSave(), m_options.pretends()};
+  if (m_options.writing && m_options.writing->json) {
+    printWritingJson(writing, m_counts, m_console);
+  } else {
+    m_console.data(m_countsText);
+    printWriting(writing, m_console);
+  }
 }
 
 /// On the thread that writes; the log itself lets in one at a time.

@@ -8,6 +8,7 @@
 #include "app/AppDelegate.h"
 #include "cli/Console.h"
 #include "cli/ExitCode.h"
+#include "cli/JsonWriter.h"
 #include "cli/ReportingFiles.h"
 #include "cli/WritingOptions.h"
 #include "host/HeadlessHost.h"
@@ -50,7 +51,9 @@ class ProjectSession {
   const LogWindowController* log() const { return m_delegate->logWindowController(); }
   const MessageList& systemLog() const { return m_systemLog; }
 
-  /// Prints what was written, or would have been, one file a line.
+  /// What a command has to say beside the files: in front of them as text, or as members of its JSON.
+  void addCounts(const std::string& text, const Json& counts);
+  /// Prints what was written, or would have been, one file a line, or as JSON where that is wanted.
   void reportFiles() const;
 
  private:
@@ -71,6 +74,8 @@ class ProjectSession {
   HeadlessHost m_host;
   ReportingFiles m_files;
   std::optional<ProjectLock> m_lock;
+  std::string m_countsText;
+  Json m_counts = Json::object();
   /// Never deleted: giving a large project's memory back piece by piece would take longer than ending the program does.
   AppDelegate* const m_delegate;
 };

@@ -9,6 +9,7 @@
 #include "cli/DisplayText.h"
 #include "cli/Paths.h"
 #include "cli/WritingOptions.h"
+#include "cli/WritingReport.h"
 #include "safety/Restore.h"
 #include "safety/UnfinishedSave.h"
 #include "text/PrintableText.h"
@@ -48,11 +49,14 @@ class RestoreRun {
 
  private:
   ExitCode finish();
+  void printFinished();
   ExitCode takeBack();
   ExitCode write(const SavedVersion& version, const RestorePlan& plan);
   std::optional<SavedVersion> wantedVersion();
   std::vector<FileUrl> wantedFiles();
-  void report(const FileText& text, const FileOutcome* outcome);
+  SaveReport save(const SavedVersion& version, const std::vector<FileText>& texts);
+  void print(const SaveReport& report);
+  void printLine(const SavedLanguage& language);
   std::string shown(const FileUrl& file) { return std::string(shownPath(resolvedProject(), file)); }
   FileUrl resolvedProject();
 
@@ -76,15 +80,28 @@ ExitCode RestoreRun::finish() {
     m_console.message("There is no unfinished save.");
     return ExitCode::Fine;
   }
-  for (const SavedFile& file : m_unfinished->manifest.files) {
-    m_console.data((m_options.writing.dryRun ? "would be finished  " : "finished  ") + printableLine(shown(file.file)) +
-                   "\n");
-  }
+  printFinished();
   if (m_options.writing.dryRun) return ExitCode::Fine;
   const Outcome finished = finishSave(m_files, m_disk, m_versions, *m_unfinished);
   if (finished) return ExitCode::Fine;
   m_console.error("cannot finish the save: " + finished.error().sentence);
   return ExitCode::Unusable;
+}
+
+void RestoreRun::printFinished() {
+  const bool pretends = m_options.writing.dryRun;
+  if (m_options.writing.json) {
+    SaveReport report;
+    for (const SavedFile& file : m_unfinished->manifest.files) {
+      FileOutcome outcome;
+      outcome.kind = FileOutcome::Kind::Changed;
+      report.languages.push_back({file.language, file.file, outcome, file.entriesBefore, file.entriesAfter});
+    }
+    return print(report);
+  }
+  for (const SavedFile& file : m_unfinished->manifest.files) {
+    m_console.data((pretends ? "would be finished  " : "finished  ") + printableLine(shown(file.file)) + "\n");
+  }
 }
 
 std::optional<SavedVersion> RestoreRun::wantedVersion() {
@@ -125,41 +142,53 @@ ExitCode RestoreRun::takeBack() {
   return ExitCode::Unusable;
 }
 
-ExitCode RestoreRun::write(const SavedVersion& version, const RestorePlan& plan) {
-  if (m_options.writing.dryRun) {
-    for (const FileText& text : plan.texts) report(text, nullptr);
-    return ExitCode::Fine;
-  }
+SaveReport RestoreRun::save(const SavedVersion& version, const std::vector<FileText>& texts) {
   const SaveOrder order{m_project,
                         GLOSSMILL_VERSION,
                         "restore --from " + version.id,
                         std::time(nullptr),
                         m_options.writing.allowance(),
-                        m_options.writing.dryRun};
-  const SaveResult result = SaveTransaction(m_files, m_disk, order).save(plan.texts);
-  if (result.refusal) {
-    explainRefusal(*result.refusal, resolvedProject(), m_console);
-    return ExitCode::Unusable;
-  }
-  ExitCode code = ExitCode::Fine;
+                        m_options.writing.dryRun,
+                        m_options.writing.maxDropped};
+  const SaveResult result = SaveTransaction(m_files, m_disk, order).save(texts);
+  SaveReport report{result.refusal, {}, result.id};
   for (std::size_t at = 0; at < result.files.size(); ++at) {
-    report(plan.texts[at], &result.files[at]);
-    if (result.files[at].kind == FileOutcome::Kind::Failed) code = ExitCode::Unusable;
+    const FileText& text = texts[at];
+    report.languages.push_back({text.language, text.file, result.files[at], text.entriesBefore, text.entriesAfter});
   }
-  if (!version.isFinished && code == ExitCode::Fine && !closeSave(m_disk, m_versions, version)) {
-    m_console.error("the unfinished save could not be closed");
-    return ExitCode::Unusable;
-  }
-  return code;
+  return report;
 }
 
-void RestoreRun::report(const FileText& text, const FileOutcome* outcome) {
-  if (outcome && outcome->kind == FileOutcome::Kind::Failed) {
-    m_console.error("cannot write " + inQuotes(shown(text.file)) + ": " + outcome->error.sentence);
-    return;
+ExitCode RestoreRun::write(const SavedVersion& version, const RestorePlan& plan) {
+  const SaveReport report = save(version, plan.texts);
+  print(report);
+  if (report.refusal) return ExitCode::Unusable;
+  if (m_options.writing.dryRun) return ExitCode::Fine;
+  const bool allWritten = std::all_of(report.languages.begin(), report.languages.end(),
+                                      [](const SavedLanguage& language) { return language.outcome.isWritten(); });
+  if (!allWritten) return ExitCode::Unusable;
+  if (version.isFinished || closeSave(m_disk, m_versions, version)) return ExitCode::Fine;
+  m_console.error("the unfinished save could not be closed");
+  return ExitCode::Unusable;
+}
+
+void RestoreRun::print(const SaveReport& report) {
+  const FileUrl project = resolvedProject();
+  const std::vector<WrittenFile> others;
+  const Writing writing{project, others, report, m_options.writing.dryRun};
+  if (m_options.writing.json) return printWritingJson(writing, Json::object(), m_console);
+  for (const SavedLanguage& language : report.languages) printLine(language);
+  printRefusalAndLosses(writing, m_console);
+}
+
+void RestoreRun::printLine(const SavedLanguage& language) {
+  const std::string file = shown(language.file);
+  if (!language.outcome.isWritten()) {
+    return m_console.error("cannot write " + inQuotes(file) + ": " + language.outcome.error.sentence);
   }
-  const std::string verb = text.bytes ? "restored" : "removed";
-  m_console.data((outcome ? verb : "would be " + verb) + "  " + printableLine(shown(text.file)) + "\n");
+  const bool isRemoved = language.outcome.kind == FileOutcome::Kind::Removed;
+  const std::string verb = isRemoved ? "removed" : "restored";
+  m_console.data((m_options.writing.dryRun ? "would be " + verb : verb) + "  " + printableLine(file) + "\n");
 }
 
 }  // namespace

@@ -10,14 +10,8 @@
 
 namespace glossmill {
 
-namespace {
-
-/// Empty for what cannot be allowed.
 std::string allowanceFor(SaveRefusal::Kind kind) {
   switch (kind) {
-    case SaveRefusal::Kind::Busy:
-    case SaveRefusal::Kind::Unfinished:
-      return {};
     case SaveRefusal::Kind::Incomplete:
       return "incomplete";
     case SaveRefusal::Kind::Outside:
@@ -25,12 +19,14 @@ std::string allowanceFor(SaveRefusal::Kind kind) {
     case SaveRefusal::Kind::Changed:
       return "changed";
     case SaveRefusal::Kind::NoCopy:
+      return "no-copy";
+    case SaveRefusal::Kind::Busy:
+    case SaveRefusal::Kind::Unfinished:
+    case SaveRefusal::Kind::Dropped:
       break;
   }
-  return "no-copy";
+  return {};
 }
-
-}  // namespace
 
 bool WritingOptions::allows(const std::string& what) const {
   return std::find(allowed.begin(), allowed.end(), what) != allowed.end();
@@ -42,12 +38,15 @@ SaveAllowance WritingOptions::allowance() const {
 
 void addWritingOptions(CLI::App& command, WritingOptions& options) {
   addDryRun(command, options.dryRun);
+  addFlag(command, "--json", options.json, "Print what was written as JSON");
   command
       .add_option("--allow", options.allowed,
                   "Write all the same: incomplete, outside, changed or no-copy; may be repeated")
       ->allow_extra_args(false)
       ->check(CLI::IsMember({"incomplete", "outside", "changed", "no-copy"}))
       ->option_text("WHAT");
+  command.add_option("--max-dropped", options.maxDropped, "Write nothing if more entries would not be written again")
+      ->option_text("N");
   command.add_option("--wait", options.waitSeconds, "How long to wait for another program that writes; 10 s")
       ->check(CLI::NonNegativeNumber)
       ->option_text("SECONDS");
@@ -67,6 +66,10 @@ ExitCode takeLock(ProjectLock& lock, const FileUrl& project, const WritingOption
 }
 
 void explainRefusal(const SaveRefusal& refusal, const FileUrl& project, Console& console) {
+  if (refusal.kind == SaveRefusal::Kind::Dropped) {
+    return console.error("nothing was written: " + refusal.places.front().sentence +
+                         ", more than --max-dropped allows");
+  }
   for (const SaveRefusal::Place& place : refusal.places) {
     console.error("not written: " + inQuotes(shownPath(project, place.file)) + ": " + place.sentence);
   }

@@ -69,15 +69,103 @@ void mentionLosses(const Writing& writing, const SavedLanguage& language, Consol
                " not written again" + (id ? "; glossmill-cli restore --from " + *id + " brings them back" : ""));
 }
 
+std::string_view changeName(FileChange change) {
+  switch (change) {
+    case FileChange::Created:
+      return "created";
+    case FileChange::Changed:
+      return "changed";
+    case FileChange::Unchanged:
+      break;
+  }
+  return "unchanged";
+}
+
+std::string_view outcomeName(const FileOutcome& outcome) {
+  if (outcome.kind == FileOutcome::Kind::Removed) return "removed";
+  const std::optional<FileChange> change = changeOf(outcome);
+  return change ? changeName(*change) : "failed";
+}
+
+Json pathJson(const Writing& writing, const FileUrl& file) {
+  return shownPath(writing.project, file);
+}
+
+Json fileJson(const Writing& writing, const FileUrl& file, std::string_view change, bool isDirectory) {
+  return {{"file", pathJson(writing, file)}, {"change", change}, {"isDirectory", isDirectory}};
+}
+
+Json filesJson(const Writing& writing) {
+  Json files = Json::array();
+  for (const WrittenFile& file : writing.files) {
+    files.push_back(fileJson(writing, file.url, changeName(file.change), file.isDirectory));
+  }
+  for (const SavedLanguage& language : writing.save.languages) {
+    for (const FileUrl& directory : language.outcome.directories) {
+      files.push_back(fileJson(writing, directory, changeName(FileChange::Created), true));
+    }
+    files.push_back(fileJson(writing, language.file, outcomeName(language.outcome), false));
+  }
+  return files;
+}
+
+Json countJson(const std::optional<std::uint64_t>& count) {
+  return count ? Json(*count) : Json();
+}
+
+Json languageJson(const Writing& writing, const SavedLanguage& language) {
+  const bool isWritten = language.outcome.isWritten();
+  return {{"iso639", language.code},
+          {"file", pathJson(writing, language.file)},
+          {"error", isWritten ? Json() : Json(language.outcome.error.sentence)},
+          {"entriesBefore", countJson(language.entriesBefore)},
+          {"entriesAfter", language.entriesAfter},
+          {"notWrittenAgain", countJson(language.notWritten())}};
+}
+
+std::string reasonOf(SaveRefusal::Kind kind) {
+  if (kind == SaveRefusal::Kind::Busy) return "busy";
+  if (kind == SaveRefusal::Kind::Unfinished) return "unfinished";
+  return kind == SaveRefusal::Kind::Dropped ? "max-dropped" : allowanceFor(kind);
+}
+
+Json refusalJson(const Writing& writing) {
+  const std::optional<SaveRefusal>& refusal = writing.save.refusal;
+  if (!refusal) return {};
+  Json places = Json::array();
+  for (const SaveRefusal::Place& place : refusal->places) {
+    places.push_back({{"file", pathJson(writing, place.file)}, {"message", place.sentence}});
+  }
+  return {{"reason", reasonOf(refusal->kind)}, {"places", places}};
+}
+
 }  // namespace
+
+void printRefusalAndLosses(const Writing& writing, Console& console) {
+  if (writing.save.refusal) explainRefusal(*writing.save.refusal, writing.project, console);
+  for (const SavedLanguage& language : writing.save.languages) mentionLosses(writing, language, console);
+}
+
+void printWritingJson(const Writing& writing, const Json& counts, Console& console) {
+  JsonWriter writer(console);
+  writer.member("dryRun", writing.pretended);
+  for (const auto& [name, count] : counts.items()) writer.member(name, count);
+  const Json files = filesJson(writing);
+  writer.list("files", files.size(), [&files](std::size_t at) { return files[at]; });
+  const std::vector<SavedLanguage>& languages = writing.save.languages;
+  writer.list("languages", languages.size(), [&](std::size_t at) { return languageJson(writing, languages[at]); });
+  writer.member("save", writing.save.id ? Json(*writing.save.id) : Json());
+  writer.member("refusal", refusalJson(writing));
+  writer.end();
+  printRefusalAndLosses(writing, console);
+}
 
 void printWriting(const Writing& writing, Console& console) {
   std::string text;
   for (const WrittenFile& file : writing.files) text += lineFor(writing, file.change, file.url, file.isDirectory);
   for (const SavedLanguage& language : writing.save.languages) text += linesFor(writing, language);
   console.data(text);
-  if (writing.save.refusal) explainRefusal(*writing.save.refusal, writing.project, console);
-  for (const SavedLanguage& language : writing.save.languages) mentionLosses(writing, language, console);
+  printRefusalAndLosses(writing, console);
 }
 
 }  // namespace glossmill

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "cli/Console.h"
+#include "cli/JsonWriter.h"
 #include "cli/ReportingFiles.h"
 #include "project/SaveReport.h"
 
@@ -16,8 +17,14 @@ struct Writing {
   bool pretended = false;
 };
 
-/// Prints what became of each file, one a line, and says why nothing was saved, which files have other names, and, to
-/// whoever wants no messages too, what was not written again.
+/// Says why nothing was saved, which files have other names, and, to whoever wants no messages too, what was not
+/// written again.
+void printRefusalAndLosses(const Writing& writing, Console& console);
+
+/// Prints what became of each file as JSON, behind the members of `counts`, and the above.
+void printWritingJson(const Writing& writing, const Json& counts, Console& console);
+
+/// Prints what became of each file, one a line, and the above.
 void printWriting(const Writing& writing, Console& console);
 
 }  // namespace glossmill

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,9 +31,10 @@ struct ProjectOptions {
   /// How long a save waits for another program that writes the project; nothing: whoever opened the project holds the
   /// lock, and has looked for a save that was cut short.
   std::optional<std::chrono::milliseconds> lockPatience = std::chrono::seconds(2);
-  bool pretendsToSave = false;  ///< a save only tells what it would do
-  std::string command;          ///< by which words the project was opened, for the record of its saves
-  std::string version;          ///< of the program, for the same
+  bool pretendsToSave = false;                   ///< a save only tells what it would do
+  std::optional<std::uint64_t> maxDropped = {};  ///< a save that would drop more entries is refused
+  std::string command;                           ///< by which words the project was opened, for the record of its saves
+  std::string version;                           ///< of the program, for the same
 };
 
 }  // namespace glossmill

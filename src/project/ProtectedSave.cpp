@@ -16,7 +16,8 @@ void allow(SaveAllowance& allowance, SaveRefusal::Kind kind) {
 }
 
 bool canBeAllowed(SaveRefusal::Kind kind) {
-  return kind != SaveRefusal::Kind::Busy && kind != SaveRefusal::Kind::Unfinished;
+  using enum SaveRefusal::Kind;
+  return kind != Busy && kind != Unfinished && kind != Dropped;
 }
 
 SaveRefusal refusalFor(SaveRefusal::Kind kind, const FileUrl& project, std::string sentence) {
@@ -34,7 +35,8 @@ ProtectedSave::ProtectedSave(const Host& host, const ProjectOptions& options, co
       m_options(options),
       m_unread(unread),
       m_lock(host.files, host.saves, project),
-      m_order{project, options.version, options.command, host.saves.now(), options.allowance, options.pretendsToSave} {}
+      m_order{project,           options.version,        options.command,   host.saves.now(),
+              options.allowance, options.pretendsToSave, options.maxDropped} {}
 
 SaveResult ProtectedSave::save(const std::vector<FileText>& texts) {
   SaveResult result = attempt(texts);

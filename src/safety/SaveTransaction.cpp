@@ -35,6 +35,7 @@ SaveTransaction::SaveTransaction(Files& files, SaveDisk& disk, const SaveOrder& 
 
 SaveResult SaveTransaction::save(const std::vector<FileText>& texts) {
   m_result = {};
+  countDropped(texts);
   for (const FileText& text : texts) lookForChange(text);
   if (!m_order.pretends && !m_result.refusal) removeAbandoned(texts);
   std::vector<Step> steps(texts.size());
@@ -59,6 +60,22 @@ void SaveTransaction::refuse(SaveRefusal::Kind kind, const FileUrl& file, const 
 WriteLimits SaveTransaction::limits(const FileText& text) const {
   const bool anywhere = m_order.allowance.outside || m_files.kindOf(m_order.project) == EntryKind::Missing;
   return {anywhere ? FileUrl() : m_order.project, text.modeIfNew};
+}
+
+/// Of a file that holds nobody knows how many entries, any number may be dropped.
+void SaveTransaction::countDropped(const std::vector<FileText>& texts) {
+  if (!m_order.maxDropped) return;
+  std::optional<std::uint64_t> dropped = 0;
+  for (const FileText& text : texts) {
+    if (m_files.kindOf(text.file) == EntryKind::Missing) continue;
+    if (!text.entriesBefore) dropped.reset();
+    const std::uint64_t before = text.entriesBefore.value_or(0);
+    if (dropped && before > text.entriesAfter) *dropped += before - text.entriesAfter;
+  }
+  if (dropped && *dropped <= *m_order.maxDropped) return;
+  const std::string count = dropped ? std::to_string(*dropped) : "an unknown number of";
+  refuse(SaveRefusal::Kind::Dropped, m_order.project,
+         count + (dropped == 1U ? " entry" : " entries") + " would not be written again");
 }
 
 /// A file that somebody else has changed since it was read. One that vanished is written anew.

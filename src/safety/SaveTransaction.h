@@ -24,6 +24,7 @@ struct SaveRefusal {
     NoCopy,
     Busy,        ///< another program writes the project
     Unfinished,  ///< an earlier save was cut short, and is to be finished or taken back first
+    Dropped,     ///< more entries would not be written again than the user allows
   };
   Kind kind = Kind::Outside;
   struct Place {
@@ -41,7 +42,8 @@ struct SaveOrder {
   std::string command;    ///< by which words it was asked for
   std::int64_t time = 0;  ///< seconds since 1970
   SaveAllowance allowance;
-  bool pretends = false;  ///< tells what would become of the files, and writes nothing
+  bool pretends = false;                         ///< tells what would become of the files, and writes nothing
+  std::optional<std::uint64_t> maxDropped = {};  ///< refused when more entries would not be written again
 };
 
 struct SaveResult {
@@ -63,6 +65,7 @@ class SaveTransaction {
  private:
   struct Step;
 
+  void countDropped(const std::vector<FileText>& texts);
   void lookForChange(const FileText& text);
   bool isUnexpected(const FileText& text, const std::optional<FileStamp>& now) const;
   void refuseChanged(const FileText& text);

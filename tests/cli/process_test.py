@@ -185,6 +185,44 @@ class Output(ProcessTest):
         self.assertEqual(gap, {"日本": 4, "e\u0301": 7})
 
 
+class Dropping(ProcessTest):
+    STRINGS = '"Hello" = "Hello";\n"Bye" = "Bye";\n'
+
+    def setUp(self):
+        super().setUp()
+        self.write("en.lproj/Localizable.strings", self.STRINGS)
+
+    def save(self, *options):
+        return subprocess.run([PROGRAM, "save", "--quiet", *options, str(self.project)], capture_output=True, text=True,
+                              check=False)
+
+    def strings(self):
+        return (self.project / "en.lproj" / "Localizable.strings").read_text(encoding="utf-8")
+
+    def test_more_than_may_be_dropped_is_refused_beforehand(self):
+        for options in ((), ("--json",), ("--dry-run",)):
+            run = self.save("--max-dropped", "0", *options)
+            self.assertEqual(run.returncode, 3)
+            self.assertEqual(run.stderr, "glossmill-cli: nothing was written: 1 entry would not be written again, "
+                                         "more than --max-dropped allows\n")
+            self.assertEqual(self.strings(), self.STRINGS)
+        self.assertEqual(self.save("--max-dropped", "1").returncode, 0)
+        self.assertNotIn("Bye", self.strings())
+
+    def test_json_tells_what_was_not_written_again_and_by_what_it_is_brought_back(self):
+        told = json.loads(self.save("--json", "--dry-run").stdout)
+        self.assertEqual((told["dryRun"], told["save"]), (True, None))
+        written = json.loads(self.save("--json").stdout)
+        self.assertEqual(written["languages"],
+                         [{"iso639": "en", "file": "en.lproj/Localizable.strings", "error": None, "entriesBefore": 2,
+                           "entriesAfter": 1, "notWrittenAgain": 1}])
+        self.assertEqual(written["files"], told["files"])
+        run = subprocess.run([PROGRAM, "restore", "--json", "--from", written["save"], str(self.project)],
+                             capture_output=True, check=True)
+        self.assertEqual(json.loads(run.stdout)["files"][0]["change"], "changed")
+        self.assertEqual(self.strings(), self.STRINGS)
+
+
 if __name__ == "__main__":
     PROGRAM = sys.argv.pop(1)
     with tempfile.TemporaryDirectory() as state:

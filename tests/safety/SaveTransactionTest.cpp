@@ -186,6 +186,32 @@ TEST_F(SaveTransactionTest, AFileThatTheSystemRefusesIsReportedAndTheOthersAreWr
   EXPECT_EQ(files.bytesOf("/x/App/nb.lproj/Localizable.strings"), "new nb");
 }
 
+TEST_F(SaveTransactionTest, MoreEntriesThanMayBeDroppedRefuseTheSaveBeforeAnythingIsDone) {
+  std::vector<FileText> texts = newTexts();
+  texts[0].entriesBefore = 5;
+  texts[0].entriesAfter = 2;
+  texts[1].entriesBefore = 1;
+  texts[1].entriesAfter = 9;  // what one file gains makes up for nothing
+  const auto saveWith = [&](std::uint64_t most) {
+    return SaveTransaction(files, disk, {kProject, "0.1", "save", 1795283100, {}, false, most}).save(texts);
+  };
+  const SaveResult refused = saveWith(2);
+  ASSERT_TRUE(refused.refusal);
+  EXPECT_EQ(refused.refusal->kind, SaveRefusal::Kind::Dropped);
+  EXPECT_EQ(refused.refusal->places.at(0).sentence, "3 entries would not be written again");
+  EXPECT_TRUE(disk.operations().empty());
+  EXPECT_FALSE(saveWith(3).refusal);
+}
+
+TEST_F(SaveTransactionTest, EntriesThatNobodyCountedMayBeTooMany) {
+  std::vector<FileText> texts = newTexts();
+  texts[0].entriesBefore = 0;
+  const auto refusal =
+      SaveTransaction(files, disk, {kProject, "0.1", "save", 1795283100, {}, false, 100}).save(texts).refusal;
+  ASSERT_TRUE(refusal);
+  EXPECT_EQ(refusal->places.at(0).sentence, "an unknown number of entries would not be written again");
+}
+
 TEST_F(SaveTransactionTest, EqualContentsAreKeptOnce) {
   files.addFile("/x/App/fr.lproj/Localizable.strings", "old de");
   save(newTexts());
