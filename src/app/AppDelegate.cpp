@@ -16,7 +16,8 @@ constexpr int kClearMenuTag = 4;
 void AppDelegate::applicationDidFinishLaunching() {
   loadRecent();
   openProjectWindow();
-  m_projectWindowController->openProject(m_recentArray.empty() ? FileUrl() : FileUrl::fromText(m_recentArray.front()));
+  m_projectWindowController->openProject(m_recentArray.empty() ? FileUrl() : FileUrl::fromText(m_recentArray.front()),
+                                         m_projectOptions);
 }
 
 void AppDelegate::applicationWillTerminate() {
@@ -59,7 +60,7 @@ void AppDelegate::quit() {
 }
 
 void AppDelegate::open() {
-  if (m_projectWindowController) m_projectWindowController->openProject(FileUrl());
+  if (m_projectWindowController) m_projectWindowController->openProject(FileUrl(), m_projectOptions);
 }
 
 void AppDelegate::close() {
@@ -99,7 +100,7 @@ void AppDelegate::openLogWindow() {
 /// The stored path serves as the text of a URL (rule 56): one with a blank in it names nothing, and the panel opens
 /// anywhere.
 void AppDelegate::recentMenu(std::string_view title) {
-  if (m_projectWindowController) m_projectWindowController->openProject(FileUrl::fromText(title));
+  if (m_projectWindowController) m_projectWindowController->openProject(FileUrl::fromText(title), m_projectOptions);
 }
 
 void AppDelegate::clearRecent() {

@@ -44,6 +44,8 @@ class AppDelegate : public ApplicationServices {
   void recentMenu(std::string_view title);
   void clearRecent();
 
+  /// How projects are opened from now on.
+  void setProjectOptions(const ProjectOptions& options) { m_projectOptions = options; }
   /// Called with each message of the log, for whoever passes messages on. Set it before the first one. Main thread.
   std::function<void(const Message&)> onLogText;
 
@@ -64,6 +66,7 @@ class AppDelegate : public ApplicationServices {
 
   Host m_host;
   const KeptLog m_keptLog;
+  ProjectOptions m_projectOptions;
   NewsQueue m_news;
   std::unique_ptr<ProjectWindowController> m_projectWindowController;
   std::unique_ptr<LogWindowController> m_logWindowController;

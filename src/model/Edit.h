@@ -28,7 +28,8 @@ enum class EditKind {
   TypingBack,  ///< an editor takes back by itself what was typed into it
   Import,
   Fill,
-  Undo,  ///< or redo
+  Undo,      ///< or redo
+  Recovery,  ///< of what a former session left unsaved
 };
 
 constexpr bool isTyping(EditKind kind) {

@@ -33,6 +33,7 @@ struct ProjectOptions {
   std::optional<std::chrono::milliseconds> lockPatience = std::chrono::seconds(2);
   bool pretendsToSave = false;                   ///< a save only tells what it would do
   std::optional<std::uint64_t> maxDropped = {};  ///< a save that would drop more entries is refused
+  bool keepsJournal = false;                     ///< edits outlive the program until a save has written them
   std::string command;                           ///< by which words the project was opened, for the record of its saves
   std::string version;                           ///< of the program, for the same
 };

@@ -11,6 +11,7 @@ ProjectWindowController::ProjectWindowController(const Host& host, ApplicationSe
       m_statusTexts(host.bundle),
       m_scanMessages(host.bundle, host.systemLog, [this](const Message& message) { logText(message); }),
       m_longJob(host.sheets, [this] { return m_host.interfaces.loadLongTimeSheet(*this); }),
+      m_unsaved(host.files, host.saves),
       m_rules(&projectRules(m_options.rules)) {
   m_stringController.addObserver([this](ArrayChange change) {
     if (change == ArrayChange::Content) m_counts.invalidate();
@@ -19,6 +20,7 @@ ProjectWindowController::ProjectWindowController(const Host& host, ApplicationSe
   m_languageController.addObserver([this](ArrayChange) { m_history.endVisit(); });
   m_edits.addObserver([this](const Edit& edit, const EditStep& step) { editApplied(edit, step.kind); });
   m_edits.addObserver([this](const Edit& edit, const EditStep& step) { m_history.add(edit, step); });
+  m_edits.addObserver([this](const Edit& edit, const EditStep&) { m_unsaved.add(edit); });
 }
 
 ProjectWindowController::~ProjectWindowController() {
@@ -64,6 +66,7 @@ void ProjectWindowController::clearProject() {
   m_unread.clear();
   m_scanReport = ScanReport();
   m_history.clear();
+  m_unsaved.end();
   // The array itself stays with the choosers that were given it; the project gets an empty one.
   m_languageController.setContent(std::make_shared<LanguageArray>());
   setChanged(false);

@@ -28,8 +28,10 @@
 #include "project/LongJob.h"
 #include "project/ProjectMoment.h"
 #include "project/ReadFiles.h"
+#include "project/Recovery.h"
 #include "project/SaveReport.h"
 #include "project/ScanMessages.h"
+#include "project/UnsavedWork.h"
 #include "safety/WatchedReading.h"
 
 namespace glossmill {
@@ -166,6 +168,26 @@ class ProjectWindowController : public ProjectContext,
   const HistoryStep* undoStep() const;
   const HistoryStep* redoStep() const;
 
+  // ---- Edits that no save wrote: ProjectWindowControllerRecovery.cpp ----
+
+  /// Beside changed(): also after an import, a replaced text, or a save that could not write everything. Only of a
+  /// project that was opened with a journal.
+  bool hasUnsavedEdits() const { return m_unsaved.any(); }
+  bool canSaveAll() const { return m_opened && (m_changed || hasUnsavedEdits()); }
+  /// Returns when all edits are on the disk, or cannot be brought there.
+  void flushEdits() { m_unsaved.flush(); }
+  /// Why edits cannot be kept on the disk; nothing when they can.
+  std::optional<Error> journalProblem() const { return m_unsaved.problem(); }
+  /// For a project that was opened without a journal: takes what former sessions left, and keeps others from it.
+  void takeKeptEdits();
+  /// What they left and how it fits, the newest session first.
+  std::vector<RecoverableEdit> recoverableEdits() const;
+  /// Applies those that can be applied, as one step. With a journal they leave what former sessions left at once,
+  /// otherwise when they are saved.
+  void recover(const std::vector<RecoverableEdit>& chosen);
+  /// False when the disk does not let go of them.
+  bool discardRecoverableEdits();
+
   // ---- Saving and closing: ProjectWindowControllerSaving.cpp ----
 
   bool saveLanguage(const std::shared_ptr<Language>& language);
@@ -246,11 +268,15 @@ class ProjectWindowController : public ProjectContext,
   void editApplied(const Edit& edit, EditKind kind);
   void countApplied(const Edit& edit, EditKind kind);
   void step(const std::function<void()>& select);
-  void travel(const std::vector<Edit>& edits);
+  void applyStep(EditKind kind, const std::vector<Edit>& edits);
   void showEdited(const std::vector<Edit>& edits);
+  void keepJournal();
+  void retireWhatIsThere();
+  RecordsByPlace recordsByPlace() const;
   bool save(const LanguageArray& languages);
   SaveResult writeFiles(const std::vector<FileText>& plan);
   void rememberSave(const std::vector<FileText>& plan, const SaveResult& result);
+  void retireWritten(const std::vector<FileText>& plan, const SaveResult& result);
   void tellOfSave(const Language& language, const FileOutcome& outcome);
 
   void showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name);
@@ -286,6 +312,7 @@ class ProjectWindowController : public ProjectContext,
   mutable TranslationCounts m_counts;
   EditDoor m_edits;
   EditHistory m_history;
+  UnsavedWork m_unsaved;
   ProjectObservers m_observers;
 
   FileUrl m_projectDirectory;

@@ -62,9 +62,9 @@ std::string ProjectWindowController::languageStatusString(const Language& langua
   return missing == 0 ? m_statusTexts.completeString : m_statusTexts.missingString(static_cast<std::int64_t>(missing));
 }
 
-/// An undone step may reach records that the filter has held back since, and those do not count.
+/// Some edits may reach records that the filter holds back, and those do not count.
 void ProjectWindowController::countApplied(const Edit& edit, EditKind kind) {
-  if (kind == EditKind::Undo) {
+  if (kind == EditKind::Undo || kind == EditKind::Recovery) {
     m_counts.invalidate();
   } else {
     m_counts.adjust(edit.language, edit.entryDifference());

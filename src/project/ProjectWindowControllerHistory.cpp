@@ -13,17 +13,17 @@ const HistoryStep* ProjectWindowController::redoStep() const {
 }
 
 void ProjectWindowController::undo() {
-  if (canUndo()) travel(m_history.undo());
+  if (canUndo()) applyStep(EditKind::Undo, m_history.undo());
 }
 
 void ProjectWindowController::redo() {
-  if (canRedo()) travel(m_history.redo());
+  if (canRedo()) applyStep(EditKind::Undo, m_history.redo());
 }
 
-void ProjectWindowController::travel(const std::vector<Edit>& edits) {
+void ProjectWindowController::applyStep(EditKind kind, const std::vector<Edit>& edits) {
   m_window.outlets.stringTableView->beginUpdates();
   m_edits.beginEdits();
-  for (const Edit& edit : edits) applyEdit(EditKind::Undo, edit);
+  for (const Edit& edit : edits) applyEdit(kind, edit);
   m_edits.endEdits();
   showEdited(edits);
   m_window.outlets.languageTableView->reloadData();

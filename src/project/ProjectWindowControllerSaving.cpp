@@ -3,6 +3,7 @@
 #include "edit/SavePlan.h"
 #include "project/ProjectWindowController.h"
 #include "project/ProtectedSave.h"
+#include "project/WrittenPlaces.h"
 #include "text/Format.h"
 
 namespace glossmill {
@@ -33,6 +34,7 @@ bool ProjectWindowController::save(const LanguageArray& languages) {
   const SaveResult result = writeFiles(plan);
   if (result.refusal) return false;
   rememberSave(plan, result);
+  retireWritten(plan, result);
   bool allWritten = true;
   for (std::size_t at = 0; at < kept.size(); ++at) {
     allWritten = allWritten && result.files[at].isWritten();
@@ -58,6 +60,12 @@ void ProjectWindowController::rememberSave(const std::vector<FileText>& plan, co
     if (m_options.pretendsToSave || !result.files[at].isWritten()) continue;
     m_readFiles.set(text.file, {result.files[at].stamp, text.entriesAfter});
   }
+}
+
+void ProjectWindowController::retireWritten(const std::vector<FileText>& plan, const SaveResult& result) {
+  if (m_options.pretendsToSave || !m_unsaved.anyToRetire()) return;
+  const WrittenPlaces written(plan, result.files, stringList());
+  m_unsaved.retire([&written](const JournalEdit& edit) { return written.holds(edit); });
 }
 
 void ProjectWindowController::tellOfSave(const Language& language, const FileOutcome& outcome) {
@@ -89,6 +97,7 @@ bool ProjectWindowController::closeProject() {
     const AlertAnswer answer = m_host.panels.runAlert(question);
     if (answer == AlertAnswer::Other) return false;
     if (answer == AlertAnswer::Default && !saveProject()) return false;
+    if (answer == AlertAnswer::Alternate) m_unsaved.discard();
   }
   clearProject();
   return true;

@@ -55,6 +55,7 @@ void ProjectWindowController::installResult(ScanRun& scan) {
   m_window.outlets.stringTableView->endUpdates();
   setChanged(false);
   m_opened = true;
+  if (m_options.keepsJournal) keepJournal();
   m_window.outlets.window->makeKeyAndOrderFront();
   m_window.outlets.window->setOrderedIndex(0);
   m_application.saveRecent(m_projectDirectory.path());

@@ -15,22 +15,29 @@ JournalWriter::~JournalWriter() {
     m_ends = true;
   }
   m_arrived.notify_one();
-  if (m_thread.joinable()) m_thread.join();
+  if (!m_thread.joinable()) return;
+  m_thread.join();
+  if (m_isEmpty) static_cast<void>(m_disk.remove(m_file.parent()));
 }
 
 void JournalWriter::append(std::string_view lines) {
-  const std::unique_lock lock(m_mutex);
-  m_work.lines += lines;
-  hand(lock);
+  hand({std::nullopt, std::string(lines)});
 }
 
 void JournalWriter::replace(std::string text) {
-  const std::unique_lock lock(m_mutex);
-  m_work = {std::move(text), {}};
-  hand(lock);
+  hand({std::move(text), {}});
 }
 
-void JournalWriter::hand(const std::unique_lock<std::mutex>&) {
+/// The thread is woken once for however much comes until it has written.
+void JournalWriter::hand(Work work) {
+  const std::lock_guard lock(m_mutex);
+  const bool isAwake = !m_work.empty();
+  if (work.whole) {
+    m_work = std::move(work);
+  } else {
+    m_work.lines += work.lines;
+  }
+  if (isAwake) return;
   if (!m_thread.joinable()) m_thread = std::thread([this] { run(); });
   m_arrived.notify_one();
 }
@@ -65,7 +72,20 @@ void JournalWriter::run() {
   }
 }
 
+/// Before anything lies in it, so that nobody takes the journal for one that was left.
+Outcome JournalWriter::takeDirectory() {
+  if (m_lock) return Done{};
+  const Outcome made = m_disk.createPrivateDirectory(m_file.parent());
+  if (!made) return made;
+  Result<std::unique_ptr<DirectoryLock>> locked = m_disk.tryLock(m_file.parent());
+  if (!locked) return locked.error();
+  m_lock = std::move(locked.value());
+  return m_lock ? Outcome(Done{}) : Error{"Another process keeps the journal."};
+}
+
 Outcome JournalWriter::write(const Work& work) {
+  const Outcome taken = takeDirectory();
+  if (!taken) return taken;
   if (work.whole) {
     const Outcome replaced = replaceWhole(*work.whole);
     if (!replaced) return replaced;
@@ -76,14 +96,14 @@ Outcome JournalWriter::write(const Work& work) {
     if (!opened) return opened.error();
     m_growing = std::move(opened.value());
   }
+  m_isEmpty = false;
   return m_growing->append(work.lines);
 }
 
 Outcome JournalWriter::replaceWhole(const std::string& text) {
   m_growing.reset();
-  if (text.empty()) return m_disk.remove(m_file);
-  const Outcome made = m_disk.createPrivateDirectory(m_file.parent());
-  return made ? m_disk.writePrivate(m_file, onePiece(text)) : made;
+  m_isEmpty = text.empty();
+  return text.empty() ? m_disk.remove(m_file) : m_disk.writePrivate(m_file, onePiece(text));
 }
 
 }  // namespace glossmill

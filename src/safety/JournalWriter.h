@@ -12,7 +12,9 @@
 namespace glossmill {
 
 /// Brings the lines of a journal to the disk on a thread of its own, so that an edit costs the main thread next to
-/// nothing: within a quarter of a second they are flushed. The thread starts with the first line.
+/// nothing: within a quarter of a second they are flushed. The thread starts with the first line. From then on the
+/// journal's directory, which nothing else lies in, is locked, so that others see that its process still runs; it goes
+/// away when the journal is empty at the end.
 class JournalWriter {
  public:
   /// `disk` outlives this.
@@ -38,14 +40,18 @@ class JournalWriter {
     bool empty() const { return !whole && lines.empty(); }
   };
 
-  void hand(const std::unique_lock<std::mutex>& lock);
+  void hand(Work work);
   void run();
   Outcome write(const Work& work);
+  Outcome takeDirectory();
   Outcome replaceWhole(const std::string& text);
 
   SaveDisk& m_disk;
   const FileUrl m_file;
-  std::unique_ptr<GrowingFile> m_growing;  ///< of the thread
+  // Of the thread.
+  std::unique_ptr<DirectoryLock> m_lock;
+  std::unique_ptr<GrowingFile> m_growing;
+  bool m_isEmpty = true;
 
   mutable std::mutex m_mutex;
   std::condition_variable m_arrived;

@@ -23,11 +23,8 @@ void UnsavedEdits::add(const JournalEdit& edit) {
   if (kept.after == kept.before) m_places.erase(found);
 }
 
-void UnsavedEdits::retire(std::string_view table, std::string_view language) {
-  std::erase_if(m_places, [&](const auto& place) {
-    const JournalEdit& edit = place.second.edit;
-    return edit.language == language && edit.table == table;
-  });
+std::size_t UnsavedEdits::retire(const std::function<bool(const JournalEdit&)>& isOver) {
+  return std::erase_if(m_places, [&isOver](const auto& place) { return isOver(place.second.edit); });
 }
 
 void UnsavedEdits::clear() {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -16,8 +16,8 @@ class UnsavedEdits {
  public:
   /// An edit that leads back to what was there before takes itself and the earlier ones away.
   void add(const JournalEdit& edit);
-  /// The file of this language has been written.
-  void retire(std::string_view table, std::string_view language);
+  /// Forgets the edits for which it holds, and tells how many those were.
+  std::size_t retire(const std::function<bool(const JournalEdit&)>& isOver);
   void clear();
 
   std::size_t count() const { return m_places.size(); }

@@ -69,11 +69,11 @@ TEST(UnsavedEdits, TheEmptyTextIsAnEntryAndNoEntryIsNone) {
   EXPECT_EQ(readJournal(unsaved.journal()).at(0).after, "");
 }
 
-TEST(UnsavedEdits, AWrittenFileRetiresTheEditsOfItsLanguageOnly) {
+TEST(UnsavedEdits, WhatIsOverGoesAndTheRestStays) {
   UnsavedEdits unsaved;
   unsaved.add(edit("Anchor", "de", std::nullopt, "Anker"));
   unsaved.add(edit("Anchor", "fr", std::nullopt, "Ancre"));
-  unsaved.retire("", "de");
+  EXPECT_EQ(unsaved.retire([](const JournalEdit& one) { return one.language == "de"; }), 1U);
   EXPECT_EQ(unsaved.all(), std::vector{edit("Anchor", "fr", std::nullopt, "Ancre")});
 }
 

@@ -59,11 +59,15 @@ class InMemoryGrowingFile : public GrowingFile {
 
 class InMemoryLock : public DirectoryLock {
  public:
-  explicit InMemoryLock(InMemorySaveDisk& disk) : m_disk(disk) { m_disk.m_lockHeld = true; }
-  ~InMemoryLock() override { m_disk.m_lockHeld = false; }
+  InMemoryLock(InMemorySaveDisk& disk, std::string path) : m_disk(disk), m_path(std::move(path)) {}
+  ~InMemoryLock() override {
+    const std::lock_guard lock(m_disk.m_mutex);
+    m_disk.m_locked.erase(m_path);
+  }
 
  private:
   InMemorySaveDisk& m_disk;
+  std::string m_path;
 };
 
 void InMemorySaveDisk::goOn() {
@@ -72,6 +76,7 @@ void InMemorySaveDisk::goOn() {
 }
 
 Outcome InMemorySaveDisk::begin(const std::string& operation) {
+  const std::lock_guard lock(m_mutex);
   ++m_done;
   if (onOperation) onOperation(operation);
   if (m_done == m_killed) {
@@ -179,9 +184,10 @@ Result<std::unique_ptr<GrowingFile>> InMemorySaveDisk::openGrowing(const FileUrl
   return std::unique_ptr<GrowingFile>(std::make_unique<InMemoryGrowingFile>(m_files, file));
 }
 
-Result<std::unique_ptr<DirectoryLock>> InMemorySaveDisk::tryLock(const FileUrl&) {
-  if (m_lockHeld) return std::unique_ptr<DirectoryLock>();
-  return std::unique_ptr<DirectoryLock>(std::make_unique<InMemoryLock>(*this));
+Result<std::unique_ptr<DirectoryLock>> InMemorySaveDisk::tryLock(const FileUrl& directory) {
+  const std::lock_guard lock(m_mutex);
+  if (!m_locked.insert(directory.path()).second) return std::unique_ptr<DirectoryLock>();
+  return std::unique_ptr<DirectoryLock>(std::make_unique<InMemoryLock>(*this, directory.path()));
 }
 
 }  // namespace glossmill

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +14,7 @@
 namespace glossmill {
 
 /// Saving on the disk in memory. Each operation that changes the disk is noted, can fail, and can be the last one that
-/// the process does.
+/// the process does. What a journal needs may come from any thread.
 class InMemorySaveDisk : public SaveDisk {
  public:
   /// Thrown in the place of a kill: nobody tidies up after it.
@@ -38,7 +40,7 @@ class InMemorySaveDisk : public SaveDisk {
 
   /// "prepare /x", "rename /x", "mkdir /x", "remove /x", "keep /x", in order.
   const std::vector<std::string>& operations() const { return m_operations; }
-  bool holdsLock() const { return m_lockHeld; }
+  bool holdsLock() const { return !m_locked.empty(); }
 
   // ---- The disk itself ----
 
@@ -72,13 +74,14 @@ class InMemorySaveDisk : public SaveDisk {
 
   InMemoryFiles& m_files;
   std::optional<FileUrl> m_stateDirectory = FileUrl("/state/glossmill");
+  std::mutex m_mutex;  ///< for what is noted and locked
   std::vector<std::string> m_operations;
   std::vector<FileUrl> m_temporaries;
   int m_done = 0;
   int m_killed = 0;
   bool m_isDead = false;
   Failure m_failure;
-  bool m_lockHeld = false;
+  std::set<std::string> m_locked;  ///< paths of directories
   int m_written = 0;
 };
 
