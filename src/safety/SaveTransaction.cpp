@@ -65,17 +65,18 @@ WriteLimits SaveTransaction::limits(const FileText& text) const {
 /// Of a file that holds nobody knows how many entries, any number may be dropped.
 void SaveTransaction::countDropped(const std::vector<FileText>& texts) {
   if (!m_order.maxDropped) return;
-  std::optional<std::uint64_t> dropped = 0;
+  std::uint64_t dropped = 0;
+  bool isKnown = true;
   for (const FileText& text : texts) {
     if (m_files.kindOf(text.file) == EntryKind::Missing) continue;
-    if (!text.entriesBefore) dropped.reset();
+    isKnown = isKnown && text.entriesBefore;
     const std::uint64_t before = text.entriesBefore.value_or(0);
-    if (dropped && before > text.entriesAfter) *dropped += before - text.entriesAfter;
+    if (before > text.entriesAfter) dropped += before - text.entriesAfter;
   }
-  if (dropped && *dropped <= *m_order.maxDropped) return;
-  const std::string count = dropped ? std::to_string(*dropped) : "an unknown number of";
+  if (isKnown && dropped <= *m_order.maxDropped) return;
+  const std::string count = isKnown ? std::to_string(dropped) : "an unknown number of";
   refuse(SaveRefusal::Kind::Dropped, m_order.project,
-         count + (dropped == 1U ? " entry" : " entries") + " would not be written again");
+         count + (isKnown && dropped == 1 ? " entry" : " entries") + " would not be written again");
 }
 
 /// A file that somebody else has changed since it was read. One that vanished is written anew.
