@@ -27,19 +27,33 @@ EntryKind kindOfMode(mode_t mode) {
   return S_ISDIR(mode) ? EntryKind::Directory : EntryKind::File;
 }
 
-/// Asks the disk, for links and for file systems whose listing does not tell the kind.
+FileIdentity identityOfNode(const struct stat& info) {
+  return {static_cast<std::uint64_t>(info.st_dev), static_cast<std::uint64_t>(info.st_ino)};
+}
+
+DirectoryEntry linkEntry(DIR* directory, const char* name) {
+  struct stat info {};
+  DirectoryEntry entry{name};
+  entry.isLink = true;
+  if (fstatat(dirfd(directory), name, &info, 0) != 0) return entry;
+  entry.kind = kindOfMode(info.st_mode);
+  entry.target = identityOfNode(info);
+  return entry;
+}
+
+/// Asks the disk, where a file system's listing does not tell the kind.
 DirectoryEntry askedEntry(DIR* directory, const char* name) {
   struct stat info {};
   DirectoryEntry entry{name};
   if (fstatat(dirfd(directory), name, &info, AT_SYMLINK_NOFOLLOW) != 0) return entry;
-  entry.isLink = S_ISLNK(info.st_mode);
-  if (entry.isLink && fstatat(dirfd(directory), name, &info, 0) != 0) return entry;
+  if (S_ISLNK(info.st_mode)) return linkEntry(directory, name);
   entry.kind = kindOfMode(info.st_mode);
   return entry;
 }
 
 DirectoryEntry entryOf(DIR* directory, const dirent& found) {
-  if (found.d_type == DT_LNK || found.d_type == DT_UNKNOWN) return askedEntry(directory, found.d_name);
+  if (found.d_type == DT_LNK) return linkEntry(directory, found.d_name);
+  if (found.d_type == DT_UNKNOWN) return askedEntry(directory, found.d_name);
   return {found.d_name, found.d_type == DT_DIR ? EntryKind::Directory : EntryKind::File, false};
 }
 
@@ -89,7 +103,7 @@ EntryKind PosixFiles::kindOf(const FileUrl& url) {
 std::optional<FileIdentity> PosixFiles::identityOf(const FileUrl& url) {
   struct stat info {};
   if (stat(url.path().c_str(), &info) != 0) return std::nullopt;
-  return FileIdentity{static_cast<std::uint64_t>(info.st_dev), static_cast<std::uint64_t>(info.st_ino)};
+  return identityOfNode(info);
 }
 
 Result<std::unique_ptr<ByteReader>> PosixFiles::open(const FileUrl& file) {

@@ -36,6 +36,10 @@ struct DirectoryUnread {
   const FileUrl& directory;
   const Error& error;
 };
+/// So many directories were entered through links that this one and others behind links were left out.
+struct LinksCutOff {
+  const FileUrl& directory;
+};
 struct ProjectFileUnread {
   const FileUrl& file;
   const Error& error;
@@ -95,9 +99,9 @@ struct StringsFileRead {
 };
 
 using ScanEvent =
-    std::variant<PackageFound, NoPackageFound, DirectoryUnread, ProjectFileUnread, OldLanguageName, StringsFileFound,
-                 SourceBegins, SourceUnread, CallRejected, StringsFileMissing, StringsFileBegins, StringsFileUnread,
-                 LinesCounted, EntryRejected, EntryWithoutMatch, StringsFileRead>;
+    std::variant<PackageFound, NoPackageFound, DirectoryUnread, LinksCutOff, ProjectFileUnread, OldLanguageName,
+                 StringsFileFound, SourceBegins, SourceUnread, CallRejected, StringsFileMissing, StringsFileBegins,
+                 StringsFileUnread, LinesCounted, EntryRejected, EntryWithoutMatch, StringsFileRead>;
 
 /// Hears of what happens while a project is read: at once, in its order, on the thread that reads.
 class ScanListener {

@@ -16,18 +16,19 @@ namespace glossmill {
 
 enum class EntryKind { Missing, File, Directory };
 
-/// One entry of a directory listing. `kind` is that of a link's target; a broken link is Missing.
-struct DirectoryEntry {
-  std::string name;
-  EntryKind kind = EntryKind::Missing;
-  bool isLink = false;
-};
-
 /// Tells whether two paths lead to the same directory.
 struct FileIdentity {
   std::uint64_t device = 0;
   std::uint64_t node = 0;
   bool operator==(const FileIdentity&) const = default;
+};
+
+/// One entry of a directory listing. `kind` is that of a link's target; a broken link is Missing.
+struct DirectoryEntry {
+  std::string name;
+  EntryKind kind = EntryKind::Missing;
+  bool isLink = false;
+  std::optional<FileIdentity> target = {};  ///< of a link, where the disk knows it
 };
 
 /// An open file that is read from front to back.

@@ -30,6 +30,10 @@ void ScanMessages::writeEvent(const DirectoryUnread& event) {
   m_systemLog.write({"Error reading directory: %@\n%@", {event.directory.text(), event.error.sentence}});
 }
 
+void ScanMessages::writeEvent(const LinksCutOff& event) {
+  m_logText({localized("Too many directories are reached through links; left out from: %@"), {event.directory.text()}});
+}
+
 void ScanMessages::writeEvent(const ProjectFileUnread& event) {
   m_logText(localized("Unable to find .pbxproj file in given project file"));
   m_systemLog.write({"Error open Xcode project file: %@", {event.error.sentence}});

@@ -25,6 +25,7 @@ class ScanMessages {
   void writeEvent(const PackageFound&) {}
   void writeEvent(const NoPackageFound&);
   void writeEvent(const DirectoryUnread& event);
+  void writeEvent(const LinksCutOff& event);
   void writeEvent(const ProjectFileUnread& event);
   void writeEvent(const OldLanguageName& event);
   void writeEvent(const StringsFileFound& event);

@@ -39,6 +39,9 @@ void ScanRun::finishReport() {
 void ScanRun::happened(const ScanEvent& event) {
   report.add(event);
   readFiles.add(event, m_parts.saves);
+  if (const auto* cutOff = std::get_if<LinksCutOff>(&event)) {
+    m_reading.note(cutOff->directory, "Too many directories are reached through links.", EntryKind::Directory);
+  }
   // A source that cannot be decoded is passed over by the rules; these two would take words along.
   if (const auto* file = std::get_if<ProjectFileUnread>(&event)) m_reading.note(file->file, file->error.sentence);
   if (const auto* file = std::get_if<StringsFileUnread>(&event)) m_reading.note(file->file, file->error.sentence);

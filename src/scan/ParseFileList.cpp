@@ -17,7 +17,8 @@ class FileListPhase : private TreeWalkListener {
       : m_input(input), m_memory(memory), m_result(result) {}
 
   void run(const FileUrl& directory) {
-    m_memory.projectPackage = findProjectPackage(m_input.files, directory, m_input.canceled);
+    m_memory.projectPackage = findProjectPackage(m_input.files, directory, m_input.canceled,
+                                                 [this](const FileUrl& first) { tellCutOff(first); });
     if (!m_memory.projectPackage) {
       tell(NoPackageFound{});
       return;
@@ -30,6 +31,7 @@ class FileListPhase : private TreeWalkListener {
 
  private:
   void tell(const ScanEvent& event) { m_input.listener.happened(event); }
+  void tellCutOff(const FileUrl& directory);
   void readProjectFile(const FileUrl& file);
   void walk(const FileUrl& directory);
   void oldLanguageName(std::string_view directoryName, std::string_view code) override {
@@ -43,7 +45,13 @@ class FileListPhase : private TreeWalkListener {
   const ScanInput& m_input;
   ScanMemory& m_memory;
   ScanResult& m_result;
+  bool m_isCutOffTold = false;
 };
+
+/// Once: the search and the walk meet the same links.
+void FileListPhase::tellCutOff(const FileUrl& directory) {
+  if (!std::exchange(m_isCutOffTold, true)) tell(LinksCutOff{directory});
+}
 
 /// What was read of a project file before stays when this one cannot be read.
 void FileListPhase::readProjectFile(const FileUrl& file) {
@@ -61,6 +69,7 @@ void FileListPhase::walk(const FileUrl& directory) {
   TreeWalk walk({m_input.files, m_input.isoTable, members ? &*members : nullptr, m_input.canceled}, m_memory,
                 *m_result.languagesList, *this);
   walk.contentsOfUrl(directory);
+  if (walk.cutOff()) tellCutOff(*walk.cutOff());
 }
 
 void FileListPhase::sourceFile(const FileUrl& file, const Result<std::unique_ptr<ByteReader>>& opened) {

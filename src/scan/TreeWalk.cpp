@@ -11,13 +11,14 @@ constexpr std::string_view kStringsFileName = "Localizable.strings";
 }
 
 void TreeWalk::contentsOfUrl(const FileUrl& directory) {
-  enter(directory, m_input.files.list(directory));
+  enter(directory, {}, m_input.files.list(directory));
 }
 
-void TreeWalk::enter(const FileUrl& directory, const Result<std::vector<DirectoryEntry>>& entries) {
+void TreeWalk::enter(const FileUrl& directory, const DirectoryEntry& listed,
+                     const Result<std::vector<DirectoryEntry>>& entries) {
   ++m_state.actualDirectoryDepth;  // also when the listing failed
   if (!entries) return;
-  m_trail.enter(directory);
+  m_trail.enter(directory, listed);
   for (const DirectoryEntry& entry : entries.value()) {
     if (m_input.canceled.isSet()) break;
     visit(directory.appending(entry.name), entry);
@@ -36,13 +37,13 @@ void TreeWalk::visit(const FileUrl& url, const DirectoryEntry& entry) {
 }
 
 void TreeWalk::directoryEntry(const FileUrl& url, const DirectoryEntry& entry) {
-  const bool leadsBack = m_trail.leadsBack(url, entry);
-  const auto entries = leadsBack ? std::vector<DirectoryEntry>() : m_input.files.list(url);
+  const bool staysOut = m_trail.keepsOut(url, entry);
+  const auto entries = staysOut ? std::vector<DirectoryEntry>() : m_input.files.list(url);
   const EntryKind kind = entries ? EntryKind::Directory : m_input.files.kindOf(url);
   if (kind == EntryKind::File && entry.kind == EntryKind::Directory) fileEntry(url, entry);
   if (kind != EntryKind::Directory) return;
   if (url.pathExtension() == "lproj") addLanguage(url.lastPathComponentWithoutExtension(), url);
-  if (!leadsBack) enter(url, entries);
+  if (!staysOut) enter(url, entry, entries);
 }
 
 void TreeWalk::fileEntry(const FileUrl& url, const DirectoryEntry& entry) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -43,11 +44,14 @@ class TreeWalk {
 
   /// Walks one directory and everything below it.
   void contentsOfUrl(const FileUrl& directory);
+  /// The first directory that was left out because too many were entered through links.
+  const std::optional<FileUrl>& cutOff() const { return m_trail.cutOff(); }
 
  private:
   void visit(const FileUrl& url, const DirectoryEntry& entry);
   void directoryEntry(const FileUrl& url, const DirectoryEntry& entry);
-  void enter(const FileUrl& directory, const Result<std::vector<DirectoryEntry>>& entries);
+  void enter(const FileUrl& directory, const DirectoryEntry& listed,
+             const Result<std::vector<DirectoryEntry>>& entries);
   void fileEntry(const FileUrl& url, const DirectoryEntry& entry);
   void stringsFile(const FileUrl& url);
   void sourceFile(const FileUrl& url, const DirectoryEntry& entry);

@@ -185,6 +185,31 @@ class Output(ProcessTest):
         self.assertEqual(gap, {"日本": 4, "e\u0301": 7})
 
 
+class Links(ProcessTest):
+    def link_into_one_another(self, count):
+        folders = [self.project / f"d{number}" for number in range(count)]
+        for folder in folders:
+            folder.mkdir()
+        for folder in folders:
+            for other in folders:
+                os.symlink(other, folder / f"to{other.name}")
+
+    def test_that_lead_into_one_another_come_to_an_end(self):
+        self.link_into_one_another(38)
+        run = subprocess.run([PROGRAM, "scan", "--json", str(self.project)], capture_output=True, check=True,
+                             timeout=TIME_LIMIT)
+        self.assertEqual(run.stderr.count(b"Too many directories"), 1)
+        unread = json.loads(run.stdout)["unread"]
+        self.assertIn("Too many directories are reached through links.", [place["message"] for place in unread])
+
+    def test_that_lead_into_one_another_keep_a_project_from_being_saved(self):
+        self.link_into_one_another(72)
+        run = subprocess.run([PROGRAM, "save", "--quiet", str(self.project)], capture_output=True, check=False,
+                             timeout=TIME_LIMIT)
+        self.assertEqual(run.returncode, 3)
+        self.assertIn(b"--allow incomplete", run.stderr)
+
+
 class Dropping(ProcessTest):
     STRINGS = '"Hello" = "Hello";\n"Bye" = "Bye";\n'
 

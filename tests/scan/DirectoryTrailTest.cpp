@@ -56,6 +56,38 @@ TEST_F(DirectoryTrailTest, DoesNotLeadBackThroughABrokenLink) {
   EXPECT_FALSE(leadsBack(files, trail, "/P/a/broken"));
 }
 
+/// The entry of a link or of a plain directory.
+DirectoryEntry entryOf(bool isLink) {
+  return {"entry", EntryKind::Directory, isLink};
+}
+
+TEST(CutOffTrail, CountsWhatIsBehindALinkAndLetsPlainDirectoriesIn) {
+  InMemoryFiles files;
+  files.addDirectory("/P");
+  DirectoryTrail trail(files, 2);
+  trail.enter(FileUrl("/P"));
+  EXPECT_FALSE(trail.keepsOut(FileUrl("/P/link"), entryOf(true)));
+  trail.enter(FileUrl("/P/link"), entryOf(true));
+  EXPECT_FALSE(trail.keepsOut(FileUrl("/P/link/plain"), entryOf(false)));
+  trail.enter(FileUrl("/P/link/plain"), entryOf(false));
+  EXPECT_TRUE(trail.keepsOut(FileUrl("/P/link/plain/more"), entryOf(false)));
+  trail.leave();
+  trail.leave();
+  EXPECT_FALSE(trail.keepsOut(FileUrl("/P/plain"), entryOf(false)));
+  EXPECT_TRUE(trail.keepsOut(FileUrl("/P/other"), entryOf(true)));
+  EXPECT_EQ(trail.cutOff(), FileUrl("/P/link/plain/more"));
+}
+
+TEST(CutOffTrail, TakesALinkBackForNoneTooMany) {
+  InMemoryFiles files;
+  files.addDirectory("/P/a");
+  files.addLink("/P/a/up", "..");
+  DirectoryTrail trail(files, 0);
+  trail.enter(FileUrl("/P"));
+  EXPECT_TRUE(trail.keepsOut(FileUrl("/P/a/up"), entryOf(true)));
+  EXPECT_EQ(trail.cutOff(), std::nullopt);
+}
+
 TEST_F(DirectoryTrailTest, ForgetsADirectoryThatWasLeft) {
   files.addLink("/P/back", "a");
   EXPECT_TRUE(leadsBack(files, trail, "/P/back"));

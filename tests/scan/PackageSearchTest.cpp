@@ -23,6 +23,18 @@ std::string packageAmong(const Names& directories) {
   return packageIn(files);
 }
 
+TEST(PackageSearch, EndsWhereLinksMakeATreeEndless) {
+  InMemoryFiles files;
+  for (int inner = 0; inner < 199; ++inner) files.addDirectory("/elsewhere/" + std::to_string(1000 + inner));
+  for (int link = 0; link < 102; ++link) files.addLink("/P/link" + std::to_string(1000 + link), "/elsewhere");
+  files.addDirectory("/P/z/A.xcodeproj");
+  std::vector<FileUrl> cutOff;
+  const auto note = [&cutOff](const FileUrl& directory) { cutOff.push_back(directory); };
+  EXPECT_EQ(findProjectPackage(files, FileUrl("/P"), CancelFlag(), note), FileUrl("/P/z/A.xcodeproj"));
+  EXPECT_EQ(cutOff, std::vector{FileUrl("/P/link1100")});
+  EXPECT_EQ(files.listed().size(), 20'002U);
+}
+
 TEST(PackageSearch, FindsAPackageInTheDirectory) {
   EXPECT_EQ(packageAmong({"Harbour.xcodeproj"}), "/P/Harbour.xcodeproj");
 }

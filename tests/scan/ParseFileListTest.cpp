@@ -19,7 +19,7 @@ class ParseFileList : public testing::Test, private ScanListener {
   ParseFileList() { files.addFile("/P/P.xcodeproj/project.pbxproj", "a.m b.m"); }
 
   void addFile(std::string_view name, std::string_view bytes = {}) { files.addFile("/P/" + std::string(name), bytes); }
-  void parse() { parseFileList(FileUrl("/P"), {files, isoTable, canceled, *this}, memory, result); }
+  void parse() { parseFileList(FileUrl("/P"), {files, isoTable, canceled, *this, options}, memory, result); }
   void cancelWhen(std::string_view line) { m_cancelLine = line; }
 
   Lines keys() const {
@@ -36,6 +36,7 @@ class ParseFileList : public testing::Test, private ScanListener {
   InMemoryFiles files;
   IsoTable isoTable = IsoTable::fromCsv("eng;en;English\r").value();
   CancelFlag canceled;
+  ProjectOptions options;
   ScanMemory memory;
   ScanResult result;
   Lines heard;

@@ -30,7 +30,7 @@ class ParseLocalizableStrings : public testing::Test, private ScanListener {
     result.languagesList->push_back(std::move(language));
   }
 
-  ScanEnd parse() { return parseLocalizableStringsList({files, isoTable, canceled, *this}, result); }
+  ScanEnd parse() { return parseLocalizableStringsList({files, isoTable, canceled, *this, options}, result); }
   void cancelWhen(std::string_view line) { m_cancelLine = line; }
 
   /// The translations of the three strings, "-" for none.
@@ -45,6 +45,7 @@ class ParseLocalizableStrings : public testing::Test, private ScanListener {
   InMemoryFiles files;
   IsoTable isoTable;
   CancelFlag canceled;
+  ProjectOptions options;
   ScanResult result;
   Lines heard;
 

@@ -51,6 +51,17 @@ TEST(TreeWalkLinks, AreSkippedWhenTheyAreBroken) {
   EXPECT_EQ(tree.state.actualDirectoryDepth, 1);
 }
 
+TEST(TreeWalkLinks, AreFollowedToTwentyThousandDirectoriesAndNoMore) {
+  WalkedTree tree;
+  for (int inner = 0; inner < 199; ++inner) tree.files.addDirectory("/elsewhere/" + std::to_string(1000 + inner));
+  for (int link = 0; link < 102; ++link) tree.addLink("link" + std::to_string(1000 + link), "/elsewhere");
+  tree.add("z/z.m");
+  tree.walk();
+  EXPECT_EQ(tree.state.actualDirectoryDepth, 20'002);  // and the directory itself, and z
+  EXPECT_EQ(tree.cutOff, FileUrl("/P/link1100"));
+  EXPECT_EQ(tree.sources, Lines{"/P/z/z.m"});
+}
+
 TEST(TreeWalkLinks, AreNotFollowedBackToADirectoryAroundThem) {
   WalkedTree tree;
   tree.add("a/b/x.m");

@@ -29,13 +29,14 @@ class UnsearchableDirectory : public testing::Test, private ScanListener {
 
   void scan() {
     const OrdinaryUser ordinary;
-    parseFileList(directory.url(), {files, isoTable, canceled, *this}, memory, result);
+    parseFileList(directory.url(), {files, isoTable, canceled, *this, options}, memory, result);
   }
 
   const TemporaryDirectory directory;
   PosixFiles files;
   IsoTable isoTable;
   CancelFlag canceled;
+  ProjectOptions options;
   ScanMemory memory;
   ScanResult result;
   std::size_t unread = 0;

@@ -19,6 +19,7 @@ class WalkedTree : private TreeWalkListener {
     if (projectFile) members.emplace(*projectFile);
     TreeWalk walk({files, isoTable, members ? &*members : nullptr, canceled}, state, languages, *this);
     walk.contentsOfUrl(FileUrl("/P"));
+    cutOff = walk.cutOff();
   }
 
   void add(std::string_view path) { files.addFile("/P/" + std::string(path), ""); }
@@ -45,6 +46,7 @@ class WalkedTree : private TreeWalkListener {
   LanguageArray languages;
   std::vector<std::string> heard;    ///< "English is en", "strings of en"
   std::vector<std::string> sources;  ///< paths
+  std::optional<FileUrl> cutOff;
 
  private:
   void oldLanguageName(std::string_view directoryName, std::string_view code) override {
