@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "model/FileText.h"
@@ -9,7 +10,7 @@
 namespace glossmill {
 
 /// What saving these languages would write: one text a language, in their order. A language that has only its directory
-/// so far gets a file in it. `texts` outlives the plan, whose texts are made one at a time.
-std::vector<FileText> planSave(LanguageTexts& texts, const LanguageArray& languages);
+/// so far gets a file in it. The texts of a plan are made one at a time.
+std::vector<FileText> planSave(const std::shared_ptr<LanguageTexts>& texts, const LanguageArray& languages);
 
 }  // namespace glossmill

@@ -16,7 +16,7 @@ namespace glossmill {
 struct FileText {
   FileUrl file;
   std::string language;  ///< code, for the record of the save
-  std::string table;     ///< id; empty where a project has one
+  std::string table;     ///< id, under rules that have tables; otherwise empty
   /// Makes the bytes, each time from the start; nothing: the file is to be taken away.
   std::function<BytePieces()> bytes;
   std::optional<std::uint64_t> entriesBefore;  ///< nothing: unknown

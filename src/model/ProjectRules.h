@@ -4,11 +4,13 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "model/Edit.h"
+#include "model/EditedTexts.h"
+#include "model/FileText.h"
 #include "model/IsoTable.h"
 #include "model/Language.h"
-#include "model/LanguageTexts.h"
 #include "model/ProjectOptions.h"
 #include "model/ScanEvents.h"
 #include "model/ScanResult.h"
@@ -35,6 +37,15 @@ struct ScanMemory {
   FileUrl actualParseFileName;                 ///< the source that was begun last
 };
 
+/// What a save works on; the plan keeps alive what it needs of it, but for the disk.
+struct SaveInput {
+  FileReading& files;
+  const StringArray& records;
+  const LanguageArray& languages;  ///< to be saved
+  const StringsTables& tables;
+  const EditedTexts& edited;
+};
+
 enum class ScanEnd { Complete, Canceled };
 
 /// One set of rules by which projects are read and saved. Without state: any project, any thread.
@@ -46,9 +57,10 @@ class ProjectRules {
                            ScanResult& result) const = 0;
   /// Phase two: the translations in the strings files. A cancel leaves those stored so far in place.
   virtual ScanEnd readStringsFiles(const ScanInput& input, ScanResult& result) const = 0;
-  /// How strings files are written: their texts for these languages. The records are kept alive by it.
-  virtual std::unique_ptr<LanguageTexts> languageTexts(const StringArray& records,
-                                                       const LanguageArray& languages) const = 0;
+  /// What a save would write, in its order. A file that cannot be written is among them, with an error for its bytes.
+  virtual std::vector<FileText> planSave(const SaveInput& input) const = 0;
+  /// Whether a save looks at what was edited and leaves all else alone.
+  virtual bool savesOnlyEdits() const = 0;
   /// Whether an edit that was applied leaves the project with something to save.
   virtual bool marksChanged(EditKind kind, const Edit& edit) const = 0;
 };

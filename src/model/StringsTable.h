@@ -30,6 +30,8 @@ struct StringsTable {
 
   /// Null where the table has no file for the language.
   const File* find(LanguageCode language) const;
+  /// For a language that has none yet.
+  void addFile(File file);
 };
 
 using StringsTables = std::vector<std::shared_ptr<StringsTable>>;

@@ -1,5 +1,6 @@
 #include "project/ClassicRules.h"
 
+#include "edit/SavePlan.h"
 #include "scan/ParseFileList.h"
 #include "scan/ParseLocalizableStrings.h"
 #include "strings/StringsFileWriter.h"
@@ -15,11 +16,10 @@ ScanEnd ClassicRules::readStringsFiles(const ScanInput& input, ScanResult& resul
   return parseLocalizableStringsList(input, result);
 }
 
-std::unique_ptr<LanguageTexts> ClassicRules::languageTexts(const StringArray& records,
-                                                           const LanguageArray& languages) const {
+std::vector<FileText> ClassicRules::planSave(const SaveInput& input) const {
   std::vector<LanguageCode> codes;
-  for (const std::shared_ptr<Language>& language : languages) codes.push_back(language->code());
-  return std::make_unique<StringsFileTexts>(records, codes);
+  for (const std::shared_ptr<Language>& language : input.languages) codes.push_back(language->code());
+  return glossmill::planSave(std::make_shared<StringsFileTexts>(input.records, codes), input.languages);
 }
 
 /// Deliberately (rule 31), a text that replaces another does not count, and nothing that was imported.

@@ -19,6 +19,9 @@ ProjectWindowController::ProjectWindowController(const Host& host, ApplicationSe
   });
   m_languageController.addObserver([this](ArrayChange) { m_history.endVisit(); });
   m_edits.addObserver([this](const Edit& edit, const EditStep& step) { editApplied(edit, step.kind); });
+  m_edits.addObserver([this](const Edit& edit, const EditStep&) {
+    if (m_rules->savesOnlyEdits()) m_edited.add(edit);
+  });
   m_edits.addObserver([this](const Edit& edit, const EditStep& step) { m_history.add(edit, step); });
   m_edits.addObserver([this](const Edit& edit, const EditStep&) { m_unsaved.add(edit); });
 }
@@ -67,6 +70,7 @@ void ProjectWindowController::clearProject() {
   m_scanReport = ScanReport();
   m_history.clear();
   m_unsaved.end();
+  m_edited.clear();
   // The array itself stays with the choosers that were given it; the project gets an empty one.
   m_languageController.setContent(std::make_shared<LanguageArray>());
   setChanged(false);

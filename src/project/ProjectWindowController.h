@@ -275,9 +275,13 @@ class ProjectWindowController : public ProjectContext,
   RecordsByPlace recordsByPlace() const;
   bool save(const LanguageArray& languages);
   SaveResult writeFiles(const std::vector<FileText>& plan);
+  void addWhatWasRead(std::vector<FileText>& plan) const;
   void rememberSave(const std::vector<FileText>& plan, const SaveResult& result);
   void retireWritten(const std::vector<FileText>& plan, const SaveResult& result);
-  void tellOfSave(const Language& language, const FileOutcome& outcome);
+  void tellOfSave(const FileText& text, const FileOutcome& outcome, const std::optional<std::string>& language);
+  std::string newLocalizableText(const FileUrl& file, const std::optional<std::string>& language) const;
+  std::string newTableFileText(const FileUrl& file, const std::optional<std::string>& language) const;
+  AlertAnswer askToSave();
 
   void showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name);
   void chooseExportFile(std::shared_ptr<Language> language, ExportScope scope);
@@ -311,6 +315,7 @@ class ProjectWindowController : public ProjectContext,
   StringArray m_filteredStringList;  ///< held back from the string table by the filter
   mutable TranslationCounts m_counts;
   EditDoor m_edits;
+  EditedTexts m_edited;  ///< where only these are saved
   EditHistory m_history;
   UnsavedWork m_unsaved;
   ProjectObservers m_observers;

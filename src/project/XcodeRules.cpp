@@ -1,6 +1,6 @@
 #include "project/XcodeRules.h"
 
-#include "strings/StringsFileWriter.h"
+#include "xcode/StringsSave.h"
 
 namespace glossmill {
 
@@ -11,8 +11,8 @@ ScanEnd XcodeRules::readStringsFiles(const ScanInput&, ScanResult&) const {
   return ScanEnd::Complete;
 }
 
-std::unique_ptr<LanguageTexts> XcodeRules::languageTexts(const StringArray&, const LanguageArray&) const {
-  return std::make_unique<StringsFileTexts>(StringArray(), std::vector<LanguageCode>());
+std::vector<FileText> XcodeRules::planSave(const SaveInput& input) const {
+  return planStringsSave(input);
 }
 
 bool XcodeRules::marksChanged(EditKind, const Edit&) const {

@@ -10,8 +10,8 @@ class XcodeRules : public ProjectRules {
   void readSources(const FileUrl& directory, const ScanInput& input, ScanMemory& memory,
                    ScanResult& result) const override;
   ScanEnd readStringsFiles(const ScanInput& input, ScanResult& result) const override;
-  std::unique_ptr<LanguageTexts> languageTexts(const StringArray& records,
-                                               const LanguageArray& languages) const override;
+  std::vector<FileText> planSave(const SaveInput& input) const override;
+  bool savesOnlyEdits() const override { return true; }
   bool marksChanged(EditKind kind, const Edit& edit) const override;
 };
 

@@ -55,6 +55,12 @@ StringsDocument StringsDocument::emptyLike(const StringsDocument& model) {
   return ofText({}, model);
 }
 
+StringsDocument StringsDocument::emptyWith(std::string_view lineEnd) {
+  StringsDocument document{std::string()};
+  document.m_lineEnd = lineEnd;
+  return document;
+}
+
 StringsDocument StringsDocument::ofText(std::string text, const StringsDocument& model) {
   StringsDocument document;
   document.m_file = {std::move(text), model.m_file.encoding, model.m_file.hasMark};

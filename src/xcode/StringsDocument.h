@@ -27,6 +27,8 @@ class StringsDocument {
   explicit StringsDocument(std::string bytes, std::optional<FileEncoding> otherwise = std::nullopt);
   /// A file without entries that takes encoding and line ends from another.
   static StringsDocument emptyLike(const StringsDocument& model);
+  /// A file without entries in UTF-8, whose lines are to end in this way.
+  static StringsDocument emptyWith(std::string_view lineEnd);
   /// The same file with another text.
   static StringsDocument ofText(std::string text, const StringsDocument& model);
 

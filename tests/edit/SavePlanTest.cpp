@@ -43,7 +43,7 @@ std::string wholeOf(const BytePieces& pieces) {
 }
 
 TEST(SavePlan, HasOneTextALanguageInTheirOrder) {
-  CodeTexts texts;
+  const auto texts = std::make_shared<CodeTexts>();
   const auto plan = planSave(texts, {language("de", "/x/de.lproj/Localizable.strings", Language::kStringsFile),
                                      language("pt-BR", "/x/pt-BR.lproj/Localizable.strings", Language::kStringsFile)});
   ASSERT_EQ(plan.size(), 2U);
@@ -54,14 +54,14 @@ TEST(SavePlan, HasOneTextALanguageInTheirOrder) {
 }
 
 TEST(SavePlan, MakesATextAnewEachTime) {
-  CodeTexts texts;
+  const auto texts = std::make_shared<CodeTexts>();
   const auto plan = planSave(texts, {language("de", "/x/de.lproj/Localizable.strings", Language::kStringsFile)});
   EXPECT_EQ(wholeOf(plan[0].bytes()), "de\n");
   EXPECT_EQ(wholeOf(plan[0].bytes()), "de\n");
 }
 
 TEST(SavePlan, GivesALanguageThatHasOnlyItsDirectoryAFile) {
-  CodeTexts texts;
+  const auto texts = std::make_shared<CodeTexts>();
   const auto french = language("fr", "/x/fr.lproj", 3);
   EXPECT_EQ(planSave(texts, {french})[0].file.path(), "/x/fr.lproj/Localizable.strings");
   EXPECT_EQ(french->urlDepth(), Language::kStringsFile);
@@ -69,7 +69,7 @@ TEST(SavePlan, GivesALanguageThatHasOnlyItsDirectoryAFile) {
 }
 
 TEST(SavePlan, EndsInAnErrorWhereUtf8CannotHoldTheText) {
-  CodeTexts texts;
+  const auto texts = std::make_shared<CodeTexts>();
   const auto plan = planSave(texts, {language("\xED\xA0\xBD", "/x/a", Language::kStringsFile)});
   EXPECT_EQ(wholeOf(plan[0].bytes()), "The text cannot be written as UTF-8.");
 }
