@@ -48,6 +48,8 @@ bool AppDelegate::validateMenuItem(int tag) const {
       return project && project->canUndo();
     case 17:
       return project && project->canRedo();
+    case 18:
+      return project && project->canSaveAll();
     case 20:
       return m_news.current() != nullptr;
     default:

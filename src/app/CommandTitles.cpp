@@ -60,6 +60,9 @@ std::string commandTitle(const AppDelegate& application, const Command& command,
   if (project && command.id == CommandId::Redo && project->canRedo()) {
     return redoTitle(*project->redoStep(), languageOf(*project->redoStep(), *project), bundle);
   }
+  if (project && command.id == CommandId::ProjectWindow && project->canSaveAll()) {
+    return bundle.localizedString("&Project Window (Not Saved)");
+  }
   return bundle.localizedString(command.title);
 }
 

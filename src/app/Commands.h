@@ -16,6 +16,7 @@ enum class CommandId {
   ClearMenu,
   Close,
   Save,
+  SaveAll,
   Export,
   Import,
   AddLanguage,

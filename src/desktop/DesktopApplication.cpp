@@ -1,6 +1,7 @@
 #include "desktop/DesktopApplication.h"
 
 #include <QCoreApplication>
+#include <cstdlib>
 
 namespace glossmill {
 
@@ -11,6 +12,11 @@ void DesktopApplication::terminate() {
   } else {
     QCoreApplication::exit(0);
   }
+}
+
+void DesktopApplication::exitAtOnce(int code) {
+  if (!onExitAtOnce) std::_Exit(code);
+  onExitAtOnce(code);
 }
 
 }  // namespace glossmill

@@ -10,9 +10,12 @@ namespace glossmill {
 class DesktopApplication : public Application {
  public:
   void terminate() override;
+  /// Ends the process where it stands.
+  void exitAtOnce(int code);
 
-  /// In the place of ending the event loop.
+  /// In the place of ending the event loop, and the process.
   std::function<void()> onTerminate;
+  std::function<void(int code)> onExitAtOnce;
   bool isTerminated() const { return m_isTerminated; }
 
  private:

@@ -15,8 +15,11 @@ DesktopProgram::DesktopProgram(OwnTexts texts)
       m_interfaces({m_delegate, m_actions, m_sheets, m_panels, m_recentMenu, m_notifications, m_bundle, m_quitPath}),
       m_delegate({m_files, m_defaults, m_notifications, m_threads, m_panels, m_sheets, m_interfaces, m_recentMenu,
                   m_systemLog, m_bundle, m_application, m_saves}),
-      m_quitPath(m_delegate, m_threads, m_panels) {
+      m_quitPath(m_delegate, m_threads, m_panels, m_application) {
   setUpHandlers();
+  ProjectOptions options;
+  options.keepsJournal = true;
+  m_delegate.setProjectOptions(options);
 }
 
 /// Jobs use the project, so they end before it goes.

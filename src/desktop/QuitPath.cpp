@@ -2,16 +2,14 @@
 
 #include <QEvent>
 #include <QScopedValueRollback>
-#include <QSessionManager>
 
 namespace glossmill {
 
-QuitPath::QuitPath(AppDelegate& delegate, HostThreads& threads, WidgetPanels& panels)
-    : m_delegate(delegate), m_threads(threads), m_panels(panels) {
+QuitPath::QuitPath(AppDelegate& delegate, HostThreads& threads, WidgetPanels& panels, DesktopApplication& application)
+    : m_delegate(delegate), m_threads(threads), m_panels(panels), m_application(application) {
   QCoreApplication::instance()->installEventFilter(this);
   connect(
-      qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) { endSession(session); },
-      Qt::DirectConnection);
+      qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { prepareForEndOfSession(); }, Qt::DirectConnection);
 }
 
 /// A question that is up is to be answered first. A file panel is cancelled, and the quit follows when it is gone.
@@ -36,21 +34,23 @@ void QuitPath::stopJob() {
 
 /// The default reaction closes the windows one by one, and a refusal by the second would leave the first one closed.
 bool QuitPath::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) m_sessionEnds = false;
   if (event->type() != QEvent::Quit || watched != QCoreApplication::instance()) {
     return QObject::eventFilter(watched, event);
   }
   event->ignore();
-  request();
+  m_sessionEnds ? endAtOnce(0) : request();
   return true;
 }
 
-void QuitPath::endSession(QSessionManager& session) {
-  const ProjectWindowController* project = m_delegate.projectWindowController();
-  if (!project || !project->changed()) return;
-  if (!session.allowsInteraction()) return;
-  request();
-  if (project->changed()) session.cancel();
-  session.release();
+void QuitPath::endAtOnce(int code) {
+  if (ProjectWindowController* project = m_delegate.projectWindowController()) project->flushEdits();
+  m_application.exitAtOnce(code);
+}
+
+void QuitPath::prepareForEndOfSession() {
+  m_sessionEnds = true;
+  if (ProjectWindowController* project = m_delegate.projectWindowController()) project->flushEdits();
 }
 
 }  // namespace glossmill

@@ -6,6 +6,7 @@
 #include "desktop/ApplicationSetup.h"
 #include "desktop/DesktopProgram.h"
 #include "desktop/LaunchArguments.h"
+#include "desktop/host/EndSignals.h"
 #include "host/AllocatorSettings.h"
 
 int main(int argc, char** argv) {
@@ -19,6 +20,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   glossmill::DesktopProgram program(
       glossmill::setUpApplication(application, QLocale::system().uiLanguages(), GLOSSMILL_VERSION));
+  const glossmill::EndSignals signals([&program](int signal) { program.quitPath().endAtOnce(128 + signal); });
   QTimer::singleShot(0, [&] { program.start(launch.directory); });
   const int result = QApplication::exec();
   program.delegate().applicationWillTerminate();

@@ -42,6 +42,7 @@ TEST(Commands, CarryTheTagsThatEnableThem) {
                                                 {CommandId::NextLanguage, 14},
                                                 {CommandId::Undo, 16},
                                                 {CommandId::Redo, 17},
+                                                {CommandId::SaveAll, 18},
                                                 {CommandId::GoToMessage, 20},
                                                 {CommandId::Quit, 0}};
   for (const auto& [id, tag] : expected) EXPECT_EQ(command(id).tag, tag) << command(id).title;

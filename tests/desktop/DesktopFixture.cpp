@@ -10,8 +10,10 @@ namespace glossmill {
 void DesktopFixture::init() {
   m_demo = std::make_unique<DemoProject>();
   m_settings = std::make_unique<QTemporaryDir>();
+  qputenv("XDG_STATE_HOME", QFile::encodeName(m_settings->path()));
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings->path());
   m_terminations = 0;
+  m_exitCode.reset();
   makeProgram(QStringLiteral("en"));
   m_alerts.clear();
   m_alertAnswers.clear();
@@ -35,6 +37,7 @@ void DesktopFixture::makeProgram(const QString& language) {
   QApplication::installTranslator(m_translator.get());
   m_program = std::make_unique<DesktopProgram>(texts);
   m_program->application().onTerminate = [this] { ++m_terminations; };
+  m_program->application().onExitAtOnce = [this](int code) { m_exitCode = code; };
 }
 
 void DesktopFixture::startAnew(const QString& language) {

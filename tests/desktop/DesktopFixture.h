@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QTimer>
 #include <memory>
+#include <optional>
 
 #include "desktop/DemoProject.h"
 #include "desktop/DesktopProgram.h"
@@ -85,6 +86,8 @@ class DesktopFixture : public QObject {
   const QStringList& alerts() const { return m_alerts; }
   bool allAnswersUsed() const { return m_alertAnswers.isEmpty() && m_alertKey == Qt::Key_unknown && !m_panelAnswer; }
   int terminations() const { return m_terminations; }
+  /// With which the process was ended at once; nothing when it was not.
+  std::optional<int> exitCode() const { return m_exitCode; }
 
  private Q_SLOTS:
   void init();
@@ -112,6 +115,7 @@ class DesktopFixture : public QObject {
   Qt::Key m_alertKey = Qt::Key_unknown;
   std::function<void(QFileDialog&)> m_panelAnswer;
   int m_terminations = 0;
+  std::optional<int> m_exitCode;
 };
 
 }  // namespace glossmill

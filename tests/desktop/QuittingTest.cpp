@@ -1,8 +1,10 @@
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <csignal>
 
 #include "desktop/DesktopFixture.h"
 #include "desktop/TestClasses.h"
+#include "desktop/host/EndSignals.h"
 
 namespace glossmill {
 
@@ -78,6 +80,39 @@ class QuittingTest : public DesktopFixture {
     answerAlert(QStringLiteral("Delete"));
     QCoreApplication::sendEvent(qApp, &quit);
     QCOMPARE(terminations(), 1);
+  }
+
+  void asksNobodyAtTheEndOfTheSession() {
+    openDemo();
+    change();
+    program().quitPath().prepareForEndOfSession();
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+    QCOMPARE(exitCode(), std::optional(0));
+    QVERIFY(alerts().isEmpty());
+    QVERIFY(project().hasUnsavedEdits());
+  }
+
+  void asksAgainWhenTheSessionGoesOn() {
+    openDemo();
+    change();
+    program().quitPath().prepareForEndOfSession();
+    type(QStringLiteral("!"));
+    answerAlert(QStringLiteral("Cancel"));
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+    QCOMPARE(alerts().size(), 1);
+    QCOMPARE(exitCode(), std::optional<int>());
+  }
+
+  void asksNobodyWhenASignalEndsIt() {
+    openDemo();
+    change();
+    const EndSignals signals([this](int signal) { program().quitPath().endAtOnce(128 + signal); });
+    raise(SIGTERM);
+    QTRY_COMPARE(exitCode(), std::optional(128 + SIGTERM));
+    QVERIFY(alerts().isEmpty());
+    QCOMPARE(terminations(), 0);
   }
 
   void doesNotAskTwiceAtATime() {

@@ -29,7 +29,18 @@ void WidgetWindow::setTitle(std::string_view title) {
 }
 
 void WidgetWindow::setDocumentEdited(bool edited) {
-  m_window.setWindowModified(edited);
+  m_isEdited = edited;
+  mark();
+}
+
+void WidgetWindow::setHasUnsavedEdits(bool hasUnsavedEdits) {
+  if (m_hasUnsavedEdits == hasUnsavedEdits) return;
+  m_hasUnsavedEdits = hasUnsavedEdits;
+  mark();
+}
+
+void WidgetWindow::mark() {
+  m_window.setWindowModified(m_isEdited || m_hasUnsavedEdits);
   if (editedChanged) editedChanged();
 }
 

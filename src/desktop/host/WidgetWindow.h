@@ -18,6 +18,8 @@ class WidgetWindow : public Window {
 
   void setTitle(std::string_view title) override;
   void setDocumentEdited(bool edited) override;
+  /// Marks the window too, whatever the project calls changed.
+  void setHasUnsavedEdits(bool hasUnsavedEdits);
   void show() override;
   void makeKeyAndOrderFront() override;
   void setOrderedIndex(int index) override;
@@ -31,8 +33,12 @@ class WidgetWindow : public Window {
   std::function<void()> editedChanged;
 
  private:
+  void mark();
+
   QWidget& m_window;
   QWidget& m_mainField;
+  bool m_isEdited = false;
+  bool m_hasUnsavedEdits = false;
 };
 
 }  // namespace glossmill

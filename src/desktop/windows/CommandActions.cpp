@@ -30,8 +30,8 @@ bool worksUnderSheet(const Command& command) {
 /// Some work wherever the keyboard is, the log window included; the others in the project window only.
 Qt::ShortcutContext contextOf(const Command& command) {
   const bool everywhere = command.id == CommandId::Open || command.id == CommandId::Save ||
-                          command.id == CommandId::Quit || command.menu == MenuId::Windows ||
-                          command.menu == MenuId::Help;
+                          command.id == CommandId::SaveAll || command.id == CommandId::Quit ||
+                          command.menu == MenuId::Windows || command.menu == MenuId::Help;
   return everywhere ? Qt::ApplicationShortcut : Qt::WindowShortcut;
 }
 

@@ -1,5 +1,7 @@
 #include "desktop/windows/ProjectWindowInterface.h"
 
+#include <QDateTime>
+#include <QLocale>
 #include <QShortcut>
 #include <utility>
 
@@ -17,6 +19,7 @@ ProjectWindowInterface::ProjectWindowInterface(ProjectWindowController& project,
       m_shell(shell),
       m_widgets(m_mainWindow),
       m_newsBar(new NewsBar(shell.delegate.news(), shell.bundle)),
+      m_unsavedNews(project, shell.delegate.news(), shell.bundle),
       m_window(m_mainWindow, *m_widgets.translationTextView),
       m_strings(
           {*m_widgets.stringTableView, *m_widgets.stringCount, *m_widgets.stringFilterPopUp, *m_widgets.searchField},
@@ -37,6 +40,7 @@ ProjectWindowInterface::ProjectWindowInterface(ProjectWindowController& project,
   setUpSearch();
   setUpNews();
   observeProject();
+  setUpUnsavedEdits();
 }
 
 /// The arranged rows went away before this, so nothing of the window may look for them any more.
@@ -92,6 +96,26 @@ void ProjectWindowInterface::setUpNews() {
   m_shell.actions.setHandler(CommandId::GoToMessage, [this] { m_newsBar->switchFocus(); });
 }
 
+void ProjectWindowInterface::setUpUnsavedEdits() {
+  m_unsavedNews.timeText = [](std::int64_t time) {
+    return fromQt(QLocale().toString(QDateTime::fromSecsSinceEpoch(time), QStringLiteral("d MMM yyyy, HH:mm")));
+  };
+  m_unsavedNews.show = [this] { showUnsavedEdits(); };
+  m_project.observers().add([this](ProjectMoment moment) {
+    m_window.setHasUnsavedEdits(m_project.hasUnsavedEdits());
+    if (moment == ProjectMoment::Closed && m_unsavedEdits) m_unsavedEdits->close();
+  });
+}
+
+void ProjectWindowInterface::showUnsavedEdits() {
+  delete m_unsavedEdits;
+  m_unsavedEdits = new UnsavedEditsWindow(m_project.recoverableEdits(), m_shell.bundle, &m_mainWindow);
+  m_unsavedEdits->apply = [this](const std::vector<RecoverableEdit>& chosen) { m_project.recover(chosen); };
+  m_unsavedEdits->discard = [this] { m_project.discardRecoverableEdits(); };
+  QObject::connect(m_unsavedEdits, &QDialog::finished, &m_mainWindow, [this] { m_unsavedNews.offer(); });
+  m_unsavedEdits->show();
+}
+
 void ProjectWindowInterface::observeProject() {
   m_project.stringController().addObserver([this](ArrayChange change) { stringsChanged(change); });
   m_project.languageController().addObserver([this](ArrayChange change) { languagesChanged(change); });
@@ -119,8 +143,9 @@ void ProjectWindowInterface::languagesChanged(ArrayChange change) {
 
 /// What the editor could take back by itself is not what stands there any more once a step was undone.
 void ProjectWindowInterface::editApplied(EditKind kind) {
+  m_window.setHasUnsavedEdits(m_project.hasUnsavedEdits());
   m_shell.actions.validateSoon();
-  if (kind != EditKind::Undo) return;
+  if (kind != EditKind::Undo && kind != EditKind::Recovery) return;
   m_widgets.translationTextView->document()->clearUndoRedoStacks();
   if (std::exchange(m_refreshQueued, true)) return;
   QMetaObject::invokeMethod(

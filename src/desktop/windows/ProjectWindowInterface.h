@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+#include "app/UnsavedNews.h"
 #include "desktop/Shell.h"
 #include "desktop/host/WidgetWindow.h"
 #include "desktop/windows/DetailPane.h"
@@ -10,6 +11,7 @@
 #include "desktop/windows/ProjectToolBar.h"
 #include "desktop/windows/ProjectWindow.h"
 #include "desktop/windows/StringPane.h"
+#include "desktop/windows/UnsavedEditsWindow.h"
 #include "platform/InterfaceFiles.h"
 #include "ui_ProjectWindowController.h"
 
@@ -34,6 +36,8 @@ class ProjectWindowInterface : public LoadedInterface {
   void setUpCommands();
   void setUpSearch();
   void setUpNews();
+  void setUpUnsavedEdits();
+  void showUnsavedEdits();
   void stringsChanged(ArrayChange change);
   void languagesChanged(ArrayChange change);
   void sheetsChanged();
@@ -45,6 +49,8 @@ class ProjectWindowInterface : public LoadedInterface {
   ProjectWindow m_mainWindow;
   Widgets m_widgets;
   NewsBar* m_newsBar;
+  UnsavedNews m_unsavedNews;
+  QPointer<UnsavedEditsWindow> m_unsavedEdits;
   WidgetWindow m_window;
   StringPane m_strings;
   LanguagePane m_languages;
