@@ -31,6 +31,7 @@ bool AppDelegate::validateMenuItem(int tag) const {
     case 5:
     case 6:
     case 7:
+    case 21:
       return project && project->canClose();
     case 3:
       return project && project->canSave();

@@ -56,6 +56,7 @@ class AppDelegate : public ApplicationServices {
   NewsQueue& news() override { return m_news; }
   void loadRecent();
 
+  const Host& host() const { return m_host; }
   /// Null until the window was opened.
   ProjectWindowController* projectWindowController() const { return m_projectWindowController.get(); }
   LogWindowController* logWindowController() const { return m_logWindowController.get(); }

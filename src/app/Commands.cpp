@@ -34,6 +34,7 @@ constexpr Command kCommands[] = {
     {Close, File, "&Close", {"Ctrl+W"}, 2, kStartsGroup, onApplication<&App::close>},
     {Save, File, "&Save", {"Ctrl+S"}, 3, false, onApplication<&App::save>},
     {SaveAll, File, "Save All &Languages", {"Ctrl+Shift+S"}, 18, false, onApplication<&App::save>},
+    {SavedVersions, File, "Saved &Versions...", {}, 21},
     {Export, File, "&Export...", {"Ctrl+E"}, 5, kStartsGroup, onProject<&Project::exportStrings>},
     {Import, File, "&Import...", {"Ctrl+I"}, 6, false, onProject<&Project::importStrings>},
     {AddLanguage, File, "&Add Language...", {"Ctrl+L"}, 7, kStartsGroup, onProject<&Project::addLanguage>},

@@ -17,6 +17,7 @@ enum class CommandId {
   Close,
   Save,
   SaveAll,
+  SavedVersions,
   Export,
   Import,
   AddLanguage,

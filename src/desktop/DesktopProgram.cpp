@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "desktop/host/QtText.h"
 #include "desktop/windows/HelpWindows.h"
 
 namespace glossmill {
@@ -19,6 +20,8 @@ DesktopProgram::DesktopProgram(OwnTexts texts)
   setUpHandlers();
   ProjectOptions options;
   options.keepsJournal = true;
+  options.command = "window";
+  options.version = fromQt(QApplication::applicationVersion());
   m_delegate.setProjectOptions(options);
 }
 

@@ -70,6 +70,7 @@ void ProjectWindowController::clearProject() {
   m_scanReport = ScanReport();
   m_history.clear();
   m_unsaved.end();
+  m_before.reset();
   m_edited.clear();
   // The array itself stays with the choosers that were given it; the project gets an empty one.
   m_languageController.setContent(std::make_shared<LanguageArray>());

@@ -94,6 +94,8 @@ class ProjectWindowController : public ProjectContext,
   const std::vector<FileUrl>& packages() const { return m_packages; }
   const StringsTables& tables() const { return m_tables; }
   const std::vector<Problem>& problems() const { return m_problems; }
+  /// The files as they were read or written last.
+  const ReadFiles& readFiles() const { return m_readFiles; }
   /// Whether the long-time sheet was begun and not yet closed.
   bool longJobRunning() const { return m_longJob.isRunning(); }
 
@@ -107,9 +109,14 @@ class ProjectWindowController : public ProjectContext,
   bool openProjectAt(const FileUrl& directory, const ProjectOptions& options = {});
   /// By which rules, and how else, the project was opened.
   const ProjectOptions& projectOptions() const { return m_options; }
-  /// Reads the open project anew and selects again what was selected. Asks before unsaved edits are lost; false when
-  /// everything stays as it is.
+  /// Reads the open project anew, selects again what was selected, and applies the edits again that no save wrote, but
+  /// for those whose text is another one by now: they are left as those of a former session. Asks before edits are lost
+  /// for want of a journal; false when everything stays as it is.
   bool reloadProject();
+  /// Whether nothing is lost by that, or may be, which is asked.
+  bool mayReadAnew();
+  /// The same without a question.
+  void readAnew();
   bool parseProject();
   /// The sheet's cancel button.
   void longTimeCanceled() { m_longJob.cancel(); }
@@ -243,10 +250,11 @@ class ProjectWindowController : public ProjectContext,
                                                std::shared_ptr<Language> language) override;
 
  private:
-  /// A row of each table.
-  struct SelectedPlace {
-    std::string key;
-    std::string language;  ///< code
+  /// What is the same again after a project was read anew.
+  struct BeforeReading {
+    std::string key;                 ///< of the selected string
+    std::string language;            ///< code of the selected one
+    std::vector<JournalEdit> edits;  ///< that no save wrote
   };
 
   void windowDidLoad();
@@ -260,8 +268,8 @@ class ProjectWindowController : public ProjectContext,
   void beginLongJob(std::string_view titleKey);
   void beginCountingJob(std::string_view titleKey);
   void installResult(ScanRun& scan);
-  bool mayLoseEdits();
-  void selectAsBefore();
+  void goOnAsBefore();
+  void applyAgain(const std::vector<JournalEdit>& edits);
 
   void holdBackCompleteStrings();
   void giveBackStrings();
@@ -330,7 +338,7 @@ class ProjectWindowController : public ProjectContext,
   std::vector<UnreadPlace> m_unread;  ///< of the open project
   SaveReport m_lastSave;
   ImportReport m_importReport;
-  std::optional<SelectedPlace> m_selectedBefore;  ///< the reading anew
+  std::optional<BeforeReading> m_before;  ///< while it is read anew
   bool m_changed = false;
   bool m_opened = false;
 };

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <utility>
 
 #include "project/ProjectWindowController.h"
@@ -17,18 +18,16 @@ void selectFirst(ArrayController<Object>& controller, const Predicate& isWanted)
 }  // namespace
 
 bool ProjectWindowController::reloadProject() {
-  if (!m_opened) return false;
-  m_window.outlets.window->clearFirstResponder();
-  if (m_changed && !mayLoseEdits()) return false;
-  const std::shared_ptr<LocalizeString> string = selectedString();
-  const std::shared_ptr<Language> language = selectedLanguage();
-  m_selectedBefore = {string ? string->name() : "", language ? language->iso639() : ""};
-  clearProject();
-  startScan(m_projectDirectory, m_options);
+  if (!m_opened || !mayReadAnew()) return false;
+  readAnew();
   return true;
 }
 
-bool ProjectWindowController::mayLoseEdits() {
+bool ProjectWindowController::mayReadAnew() {
+  m_window.outlets.window->clearFirstResponder();
+  m_unsaved.flush();
+  const bool isKept = m_options.keepsJournal && !m_unsaved.problem();
+  if (isKept || !(m_changed || hasUnsavedEdits())) return true;
   AlertRequest question;
   question.message = localized("The project is read anew, and the translations that were not saved are lost. Go on?");
   question.defaultButton = localized("Cancel");
@@ -37,11 +36,31 @@ bool ProjectWindowController::mayLoseEdits() {
   return m_host.panels.runAlert(question) == AlertAnswer::Alternate;
 }
 
-void ProjectWindowController::selectAsBefore() {
-  const std::optional<SelectedPlace> before = std::exchange(m_selectedBefore, std::nullopt);
+void ProjectWindowController::readAnew() {
+  const std::shared_ptr<LocalizeString> string = selectedString();
+  const std::shared_ptr<Language> language = selectedLanguage();
+  BeforeReading before{string ? string->name() : "", language ? language->iso639() : "", m_unsaved.all()};
+  clearProject();
+  m_before = std::move(before);
+  startScan(m_projectDirectory, m_options);
+}
+
+void ProjectWindowController::goOnAsBefore() {
+  const std::optional<BeforeReading> before = std::exchange(m_before, std::nullopt);
   if (!before) return;
   selectFirst(m_stringController, [&](const LocalizeString& string) { return string.name() == before->key; });
   selectFirst(m_languageController, [&](const Language& language) { return language.iso639() == before->language; });
+  applyAgain(before->edits);
+}
+
+/// What other sessions left is not applied unasked.
+void ProjectWindowController::applyAgain(const std::vector<JournalEdit>& edits) {
+  std::vector<RecoverableEdit> own = recoverableEdits();
+  std::erase_if(own, [&edits](const RecoverableEdit& one) {
+    const bool isOwn = std::find(edits.begin(), edits.end(), one.edit) != edits.end();
+    return !isOwn || one.fit != RecoverableEdit::Fit::Applies;
+  });
+  recover(own);
 }
 
 }  // namespace glossmill

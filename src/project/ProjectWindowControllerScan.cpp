@@ -48,7 +48,6 @@ void ProjectWindowController::installResult(ScanRun& scan) {
   m_stringController.setSelectionIndex(0);
   m_languageController.setContent(result.languagesList);
   m_languageController.setSelectionIndex(0);
-  selectAsBefore();
   m_window.outlets.stringFilterPopUp->selectItemAtIndex(
       static_cast<int>(storedNumber(m_host.defaults, SettingId::StringFilter)));
   changeStringFilter();
@@ -56,6 +55,7 @@ void ProjectWindowController::installResult(ScanRun& scan) {
   setChanged(false);
   m_opened = true;
   if (m_options.keepsJournal) keepJournal();
+  goOnAsBefore();
   m_window.outlets.window->makeKeyAndOrderFront();
   m_window.outlets.window->setOrderedIndex(0);
   m_application.saveRecent(m_projectDirectory.path());

@@ -71,7 +71,8 @@ std::optional<SaveRefusal> ProtectedSave::keepOthersAway() {
 std::optional<SaveRefusal> ProtectedSave::obstacle() {
   if (m_lock.isHeld()) {
     SavedVersions versions(m_host.files, m_host.saves, m_order.project);
-    if (findUnfinishedSave(m_host.files, m_host.saves, versions)) {
+    const std::optional<SavedVersion> open = findUnfinishedSave(m_host.files, m_host.saves, versions);
+    if (open && open->id != m_takenBack) {
       return refusalFor(SaveRefusal::Kind::Unfinished, m_order.project, "A save of it was cut short.");
     }
   }

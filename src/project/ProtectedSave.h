@@ -21,6 +21,8 @@ class ProtectedSave {
   ProtectedSave(const Host& host, const ProjectOptions& options, const FileUrl& project,
                 const std::vector<UnreadPlace>& unread);
 
+  /// The save is to take this one back, which was cut short and therefore is no obstacle.
+  void takeBack(const std::string& unfinished) { m_takenBack = unfinished; }
   /// The project is kept from others until this object goes away, unless the save was refused.
   SaveResult save(const std::vector<FileText>& texts);
   /// Whether the user rather wants the project to be read anew, after a refusal.
@@ -39,6 +41,7 @@ class ProtectedSave {
   const std::vector<UnreadPlace>& m_unread;
   ProjectLock m_lock;
   SaveOrder m_order;
+  std::string m_takenBack;  ///< id; usually empty
   bool m_wantsReload = false;
 };
 

@@ -9,6 +9,7 @@ namespace glossmill {
 
 void ReadFiles::add(const ScanEvent& event, SaveDisk& disk) {
   std::visit(Overloaded{
+                 [&](const PackageFound& it) { begin(it.package.appending("project.pbxproj"), disk); },
                  [&](const StringsFileBegins& it) { begin(it.file, disk); },
                  [&](const StringsFileMissing& it) { beginWithout(it.language, disk); },
                  [this](const EntryRejected&) { ++m_leftOut; },

@@ -11,8 +11,8 @@
 
 namespace glossmill {
 
-/// What is known of the strings files as they were read or written last, to notice what others do to them and to count
-/// what a save leaves out. Filled on the scan's thread, then used on the main thread.
+/// What is known of the project file and the strings files as they were read or written last, to notice what others do
+/// to them and to count what a save leaves out. Filled on the scan's thread, then used on the main thread.
 class ReadFiles {
  public:
   struct File {
@@ -24,6 +24,8 @@ class ReadFiles {
   /// What happens in a scan.
   void add(const ScanEvent& event, SaveDisk& disk);
   void set(const FileUrl& file, const File& known) { m_files[file.path()] = known; }
+  /// By their paths.
+  const std::map<std::string, File>& files() const { return m_files; }
   /// Null for a file that nobody has looked for.
   const File* find(const FileUrl& file) const {
     const auto found = m_files.find(file.path());

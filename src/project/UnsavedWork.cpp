@@ -16,6 +16,10 @@ void UnsavedWork::add(const Edit& edit) {
       {m_disk.now(), std::string(tableIdOf(record)), record.name(), edit.language.text(), edit.before, edit.after});
 }
 
+std::vector<JournalEdit> UnsavedWork::all() const {
+  return m_journal ? m_journal->unsaved().all() : std::vector<JournalEdit>();
+}
+
 void UnsavedWork::discard() {
   if (m_journal) m_journal->discard();
 }

@@ -25,6 +25,8 @@ class UnsavedWork {
   void end();
   void add(const Edit& edit);
   bool any() const { return m_journal && !m_journal->unsaved().empty(); }
+  /// Those of this session.
+  std::vector<JournalEdit> all() const;
   /// Nobody wants what this session has not saved.
   void discard();
   /// Returns when all of it is on the disk.

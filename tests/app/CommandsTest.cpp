@@ -44,6 +44,7 @@ TEST(Commands, CarryTheTagsThatEnableThem) {
                                                 {CommandId::Redo, 17},
                                                 {CommandId::SaveAll, 18},
                                                 {CommandId::GoToMessage, 20},
+                                                {CommandId::SavedVersions, 21},
                                                 {CommandId::Quit, 0}};
   for (const auto& [id, tag] : expected) EXPECT_EQ(command(id).tag, tag) << command(id).title;
 }

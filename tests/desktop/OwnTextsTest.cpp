@@ -36,7 +36,7 @@ QString joinedLiterals(const QString& literals) {
 /// Every text that the sources look up by calling one of these, and every title of a column.
 QStringList keysOfSources() {
   static const QRegularExpression kCall(QStringLiteral(
-      "(?:localized|localizedString|beginLongJob|beginCountingJob)\\(\\s*((?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+)\\)"));
+      "(?:localized|localizedString|text|beginLongJob|beginCountingJob)\\(\\s*((?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+)\\)"));
   static const QRegularExpression kTitles(QStringLiteral("(\"[^\"]+\"), \\d+, "));
   QStringList keys;
   for (const QString& file : filesBelow(QStringLiteral(GLOSSMILL_SOURCES), QStringLiteral("*.cpp"))) {

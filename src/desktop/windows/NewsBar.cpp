@@ -10,6 +10,7 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include "desktop/host/ForeignText.h"
 #include "desktop/host/QtText.h"
 
 namespace glossmill {
@@ -101,7 +102,7 @@ void NewsBar::show(const News* news) {
   removeButtons();
   setVisible(news != nullptr);
   if (news) {
-    m_text->setText(toQt(news->text));
+    m_text->setText(shownText(news->text));
     setAccessibleName(m_text->text());
     showKind(news->kind);
     addButtons(*news);

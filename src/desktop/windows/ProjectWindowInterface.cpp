@@ -20,6 +20,7 @@ ProjectWindowInterface::ProjectWindowInterface(ProjectWindowController& project,
       m_widgets(m_mainWindow),
       m_newsBar(new NewsBar(shell.delegate.news(), shell.bundle)),
       m_unsavedNews(project, shell.delegate.news(), shell.bundle),
+      m_news(shell.delegate.host(), project, shell.delegate.news(), m_fileWatch),
       m_window(m_mainWindow, *m_widgets.translationTextView),
       m_strings(
           {*m_widgets.stringTableView, *m_widgets.stringCount, *m_widgets.stringFilterPopUp, *m_widgets.searchField},
@@ -94,6 +95,19 @@ void ProjectWindowInterface::setUpNews() {
   m_widgets.centralLayout->insertWidget(0, m_newsBar);
   m_newsBar->changed = [this] { m_shell.actions.validateSoon(); };
   m_shell.actions.setHandler(CommandId::GoToMessage, [this] { m_newsBar->switchFocus(); });
+  m_shell.actions.setHandler(CommandId::SavedVersions, [this] { showVersions({}); });
+  m_news.saves.show = [this](const std::string& id) { showVersions(id); };
+  m_project.observers().add([this](ProjectMoment moment) {
+    if (moment == ProjectMoment::Closed && m_versions) m_versions->close();
+  });
+}
+
+/// Made anew each time, as others may have saved meanwhile.
+void ProjectWindowInterface::showVersions(const std::string& id) {
+  delete m_versions;
+  m_versions = new SavedVersionsWindow(m_news.restorer, m_shell.bundle, &m_mainWindow);
+  m_versions->select(id);
+  m_versions->show();
 }
 
 void ProjectWindowInterface::setUpUnsavedEdits() {

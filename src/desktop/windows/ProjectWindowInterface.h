@@ -2,14 +2,17 @@
 
 #include <QObject>
 
+#include "app/ProjectNews.h"
 #include "app/UnsavedNews.h"
 #include "desktop/Shell.h"
+#include "desktop/host/QtFileWatch.h"
 #include "desktop/host/WidgetWindow.h"
 #include "desktop/windows/DetailPane.h"
 #include "desktop/windows/LanguagePane.h"
 #include "desktop/windows/NewsBar.h"
 #include "desktop/windows/ProjectToolBar.h"
 #include "desktop/windows/ProjectWindow.h"
+#include "desktop/windows/SavedVersionsWindow.h"
 #include "desktop/windows/StringPane.h"
 #include "desktop/windows/UnsavedEditsWindow.h"
 #include "platform/InterfaceFiles.h"
@@ -38,6 +41,7 @@ class ProjectWindowInterface : public LoadedInterface {
   void setUpNews();
   void setUpUnsavedEdits();
   void showUnsavedEdits();
+  void showVersions(const std::string& id);
   void stringsChanged(ArrayChange change);
   void languagesChanged(ArrayChange change);
   void sheetsChanged();
@@ -51,6 +55,9 @@ class ProjectWindowInterface : public LoadedInterface {
   NewsBar* m_newsBar;
   UnsavedNews m_unsavedNews;
   QPointer<UnsavedEditsWindow> m_unsavedEdits;
+  QtFileWatch m_fileWatch;
+  ProjectNews m_news;
+  QPointer<SavedVersionsWindow> m_versions;
   WidgetWindow m_window;
   StringPane m_strings;
   LanguagePane m_languages;
