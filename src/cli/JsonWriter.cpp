@@ -1,6 +1,8 @@
 #include "cli/JsonWriter.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <utility>
 
 #include "text/ByteSearch.h"
 
@@ -9,6 +11,7 @@ namespace glossmill {
 namespace {
 
 constexpr std::size_t kMostHeld = 1 << 20;
+constexpr std::size_t kLongText = 1 << 16;
 constexpr char kDelete = 0x7F;
 constexpr char kLeadOfHighControls = '\xC2';
 
@@ -35,6 +38,25 @@ void appendEscaped(std::string& out, std::string_view json) {
   out.append(json.substr(done));
 }
 
+std::string dumped(const Json& value) {
+  return value.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+bool holdsLongText(const Json& value) {
+  if (value.is_string()) return value.get_ref<const std::string&>().size() > kLongText;
+  return value.is_structured() && std::any_of(value.begin(), value.end(), holdsLongText);
+}
+
+/// Not longer than a long text, and cut between characters.
+std::size_t pieceLength(std::string_view text) {
+  constexpr std::size_t kLongestCharacter = 4;
+  if (text.size() <= kLongText) return text.size();
+  std::size_t length = kLongText;
+  const auto isInside = [text](std::size_t at) { return (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80; };
+  while (length > kLongText - kLongestCharacter && isInside(length)) --length;
+  return length;
+}
+
 }  // namespace
 
 void JsonWriter::member(std::string_view memberName, const Json& memberValue) {
@@ -56,7 +78,42 @@ void JsonWriter::name(std::string_view memberName) {
 }
 
 void JsonWriter::value(const Json& value) {
-  appendEscaped(m_text, value.dump(-1, ' ', false, Json::error_handler_t::replace));
+  if (value.is_string()) return this->value(std::string_view(value.get_ref<const std::string&>()));
+  if (!holdsLongText(value)) {
+    appendEscaped(m_text, dumped(value));
+    return handOver();
+  }
+  const bool isObject = value.is_object();
+  m_text += isObject ? '{' : '[';
+  std::string_view separator;
+  for (const auto& item : value.items()) {
+    m_text += std::exchange(separator, ",");
+    if (isObject) appendEscaped(m_text, dumped(item.key()) + ":");
+    this->value(item.value());
+  }
+  m_text += isObject ? '}' : ']';
+}
+
+void JsonWriter::value(std::string_view text) {
+  if (text.size() > kLongText) return longText(text);
+  appendEscaped(m_text, dumped(text));
+  handOver();
+}
+
+/// Piece by piece, so that a very long text does not lie in memory in several forms.
+void JsonWriter::longText(std::string_view text) {
+  m_text += '"';
+  while (!text.empty()) {
+    const std::string_view piece = text.substr(0, pieceLength(text));
+    const std::string quoted = dumped(piece);
+    appendEscaped(m_text, std::string_view(quoted).substr(1, quoted.size() - 2));
+    handOver();
+    text.remove_prefix(piece.size());
+  }
+  m_text += '"';
+}
+
+void JsonWriter::handOver() {
   if (m_text.size() < kMostHeld) return;
   m_console.data(m_text);
   m_text.clear();

@@ -26,6 +26,9 @@ class JsonWriter {
  private:
   void name(std::string_view name);
   void value(const Json& value);
+  void value(std::string_view text);
+  void longText(std::string_view text);
+  void handOver();
 
   Console& m_console;
   std::string m_text;

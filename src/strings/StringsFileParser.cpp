@@ -9,6 +9,10 @@
 
 namespace glossmill {
 
+namespace {
+constexpr std::size_t kMostQuotes = 64;  ///< of a line whose places are kept, from its first
+}
+
 /// A line of the comment-free text and the places of its quotes; all places count from the start of the text.
 struct StringsFileParser::Line {
   std::string_view text;  ///< from the start of the whole text to the end of the line
@@ -19,6 +23,15 @@ struct StringsFileParser::Line {
   std::string_view from(std::size_t place) const { return text.substr(place); }
   std::string_view between(std::size_t quote, std::size_t nextQuote) const {
     return text.substr(quote + 1, nextQuote - quote - 1);
+  }
+  /// The next one behind a place; the length of the text when there is none. Behind the first of very many, some may be
+  /// missing in the list.
+  std::size_t quoteBehind(std::size_t place) const {
+    const auto known = quotes.first(std::min(quotes.size(), kMostQuotes));
+    const auto next = std::upper_bound(known.begin(), known.end(), place);
+    if (next != known.end()) return *next;
+    if (known.size() < kMostQuotes) return text.size();
+    return findByte(text, '"', std::max(place, known.back()) + 1);
   }
 };
 
@@ -72,11 +85,13 @@ void StringsFileParser::feedLine(std::string_view& piece) {
   dropTakenLines();
   m_remover.feed(piece.substr(0, length), m_clean);
   takeLines();
+  m_clean.quotes.resize(std::min(m_clean.quotes.size(), m_firstQuote + kMostQuotes));
   piece.remove_prefix(length);
 }
 
 StringsFileContent StringsFileParser::finish() {
   nextLine({m_clean.text, m_lineStart, std::span(m_clean.quotes).subspan(m_firstQuote)});
+  m_clean = {};
   return std::move(m_content);
 }
 
@@ -135,17 +150,17 @@ void StringsFileParser::takeValue(const Line& line, KeyIndex::Number key) {
     reject(line.from(keyEnd));
     return;
   }
-  const auto open =
-      std::find_if(line.quotes.begin() + 2, line.quotes.end(), [equals](std::size_t quote) { return quote > equals; });
-  if (open == line.quotes.end()) {
+  const std::size_t open = line.quoteBehind(equals);
+  if (open == line.text.size()) {
     reject(line.from(equals));
     return;
   }
-  if (open + 1 == line.quotes.end()) {
-    reject(line.from(*open + 1));
+  const std::size_t close = line.quoteBehind(open);
+  if (close == line.text.size()) {
+    reject(line.from(open + 1));
     return;
   }
-  m_content.entries.push_back({key, m_values.add(line.between(*open, *(open + 1)))});
+  m_content.entries.push_back({key, m_values.add(line.between(open, close))});
 }
 
 void StringsFileParser::report(StringsFileDiagnostic::Kind kind, std::string_view text) {

@@ -23,6 +23,14 @@ class RandomFile {
     return text;
   }
 
+  /// Many of them, and little else.
+  std::string quotes(std::size_t most) {
+    static const std::vector<std::string> pieces = {"\"", "\"", "\"", "\"", "b", " ", "\\"};
+    std::string text;
+    for (std::size_t left = number(most); left > 0; --left) text += pieces[number(pieces.size())];
+    return text;
+  }
+
   /// Good lines with a few characters lost and doubled.
   std::string damagedFile() {
     static const std::vector<std::string> lines = {
@@ -70,6 +78,13 @@ TEST(StringsFileParser, AgreesWithThePlainRulesOnRandomTexts) {
 TEST(StringsFileParser, AgreesWithThePlainRulesOnLongRandomTexts) {
   RandomFile random;
   for (int round = 0; round < 500 && !testing::Test::HasFailure(); ++round) expectTheSame(random.heap(1000), random);
+}
+
+TEST(StringsFileParser, AgreesWithThePlainRulesOnLinesOfManyQuotes) {
+  RandomFile random;
+  for (int round = 0; round < 1000 && !testing::Test::HasFailure(); ++round) {
+    expectTheSame("\"a\"" + random.quotes(150) + "=" + random.quotes(100) + "\n\"a\"=\"v\";", random);
+  }
 }
 
 TEST(StringsFileParser, AgreesWithThePlainRulesOnDamagedFiles) {
