@@ -13,6 +13,7 @@
 #include "cli/FillCommand.h"
 #include "cli/HistoryCommand.h"
 #include "cli/ImportCommand.h"
+#include "cli/RecoverCommand.h"
 #include "cli/RestoreCommand.h"
 #include "cli/SaveCommand.h"
 #include "cli/ScanCommand.h"
@@ -50,6 +51,7 @@ void addEverything(CLI::App& program, TypedCommand& typed) {
   addAddLanguageCommand(program, typed);
   addHistoryCommand(program, typed);
   addRestoreCommand(program, typed);
+  addRecoverCommand(program, typed);
   program.footer(program.get_footer() + kExitCodes);
 }
 

@@ -4,6 +4,7 @@
 Usage: process_test.py PROGRAM
 """
 
+import fcntl
 import json
 import os
 import pathlib
@@ -246,6 +247,85 @@ class Dropping(ProcessTest):
                              capture_output=True, check=True)
         self.assertEqual(json.loads(run.stdout)["files"][0]["change"], "changed")
         self.assertEqual(self.strings(), self.STRINGS)
+
+
+class Recovering(ProcessTest):
+    """The window has ended with two edits that no save wrote, one of them to a text that is another one by now."""
+
+    def setUp(self):
+        super().setUp()
+        self.state = pathlib.Path(self.folder.name) / "state"
+        self.write("main.m", 'NSLocalizedString(@"Hello", @"Greeting"); NSLocalizedString(@"Bye", @"");\n')
+        self.write("en.lproj/Localizable.strings", '"Hello" = "Hello";\n')
+        # Any save makes the place where the program keeps what it knows of the project.
+        subprocess.run([PROGRAM, "save", "--quiet", str(self.project)], env=self.environment(), check=True,
+                       capture_output=True)
+        place, = (self.state / "glossmill" / "projects").iterdir()
+        self.journal = place / "journals" / "1795283100-7-1" / "edits"
+        self.journal.parent.mkdir(parents=True)
+        self.journal.write_text("edit 1795283100 % Hello en Hi Good%20day .\nedit 1795283100 % Bye en %- Bye .\n"
+                                "edit 1795283101 % Bye en Bye See%20", encoding="utf-8")
+
+    def environment(self):
+        return os.environ | {"XDG_STATE_HOME": str(self.state)}
+
+    def run_recover(self, *options):
+        return subprocess.run([PROGRAM, "recover", "--quiet", *options, str(self.project)], env=self.environment(),
+                              capture_output=True, text=True, check=False)
+
+    def edits(self):
+        return [(edit["name"], edit["unsaved"], edit["fit"])
+                for edit in json.loads(self.run_recover("--json").stdout)["edits"]]
+
+    def strings(self):
+        return (self.project / "en.lproj" / "Localizable.strings").read_text(encoding="utf-8")
+
+    def test_edits_are_listed_as_text_and_as_json_and_nothing_is_written(self):
+        before = self.strings()
+        run = self.run_recover()
+        self.assertEqual((run.returncode, run.stderr), (0, ""))
+        self.assertEqual(run.stdout,
+                         '2026-11-21T17-45-00Z  en  "Hello"\n    was      "Hi"\n    unsaved  "Good day"\n'
+                         '    now      "Hello", changed since\n'
+                         '2026-11-21T17-45-00Z  en  "Bye"\n    was      no entry\n    unsaved  "Bye"\n')
+        self.assertEqual(self.edits(), [("Hello", "Good day", "changed since"), ("Bye", "Bye", "applies")])
+        self.assertEqual(self.strings(), before)
+
+    def test_what_fits_is_applied_and_saved_and_the_conflict_is_kept(self):
+        run = self.run_recover("--apply")
+        self.assertEqual(run.returncode, 3)
+        self.assertEqual(run.stderr, "glossmill-cli: 1 edit does not fit what is there now and is kept; "
+                                     "see: glossmill-cli recover\n")
+        self.assertIn('"Bye" = "Bye"', self.strings())
+        self.assertIn('"Hello" = "Hello"', self.strings())
+        self.assertEqual(self.edits(), [("Hello", "Good day", "changed since")])
+
+    def test_a_dry_run_writes_and_forgets_nothing(self):
+        before = self.strings()
+        self.run_recover("--apply", "--dry-run")
+        self.run_recover("--discard", "--dry-run")
+        self.assertEqual(self.strings(), before)
+        self.assertEqual(len(self.edits()), 2)
+
+    def test_what_is_discarded_is_gone(self):
+        run = self.run_recover("--discard")
+        self.assertEqual((run.returncode, run.stdout), (0, "discarded  2 edits\n"))
+        self.assertEqual(self.edits(), [])
+        self.assertFalse(self.journal.exists())
+
+    def test_a_save_that_fails_keeps_them(self):
+        (self.project / "en.lproj" / "Localizable.strings").unlink()
+        (self.project / "en.lproj" / "Localizable.strings").mkdir()
+        self.assertEqual(self.run_recover("--apply", "--allow", "incomplete", "--allow", "changed").returncode, 3)
+        self.assertTrue(self.journal.exists())
+
+    def test_a_journal_that_a_window_still_writes_is_left_alone(self):
+        held = os.open(self.journal.parent, os.O_RDONLY)
+        self.addCleanup(os.close, held)
+        fcntl.flock(held, fcntl.LOCK_EX)
+        self.assertEqual(self.edits(), [])
+        self.run_recover("--discard")
+        self.assertTrue(self.journal.exists())
 
 
 if __name__ == "__main__":
