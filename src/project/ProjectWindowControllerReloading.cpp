@@ -1,4 +1,4 @@
-#include <algorithm>
+#include <set>
 #include <utility>
 
 #include "project/ProjectWindowController.h"
@@ -55,10 +55,10 @@ void ProjectWindowController::goOnAsBefore() {
 
 /// What other sessions left is not applied unasked.
 void ProjectWindowController::applyAgain(const std::vector<JournalEdit>& edits) {
+  const std::set<JournalEdit> known(edits.begin(), edits.end());
   std::vector<RecoverableEdit> own = recoverableEdits();
-  std::erase_if(own, [&edits](const RecoverableEdit& one) {
-    const bool isOwn = std::find(edits.begin(), edits.end(), one.edit) != edits.end();
-    return !isOwn || one.fit != RecoverableEdit::Fit::Applies;
+  std::erase_if(own, [&known](const RecoverableEdit& one) {
+    return !known.contains(one.edit) || one.fit != RecoverableEdit::Fit::Applies;
   });
   recover(own);
 }

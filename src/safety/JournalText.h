@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -17,7 +18,7 @@ struct JournalEdit {
   std::optional<std::string> before;
   std::optional<std::string> after;
 
-  bool operator==(const JournalEdit&) const = default;
+  auto operator<=>(const JournalEdit&) const = default;
   bool isSamePlace(const JournalEdit& other) const {
     return key == other.key && language == other.language && table == other.table;
   }
