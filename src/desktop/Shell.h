@@ -6,6 +6,7 @@
 #include "desktop/host/RecentMenu.h"
 #include "desktop/host/WidgetPanels.h"
 #include "desktop/windows/CommandActions.h"
+#include "host/HostThreads.h"
 #include "platform/Bundle.h"
 #include "platform/NotificationCenter.h"
 
@@ -23,6 +24,7 @@ struct Shell {
   NotificationCenter& notifications;
   const Bundle& bundle;
   QuitPath& quitPath;
+  const HostThreads& threads;
 };
 
 }  // namespace glossmill

@@ -237,6 +237,28 @@ class OpeningTest : public DesktopFixture {
     QVERIFY(isEnabled(CommandId::Quit));
     QVERIFY(!isEnabled(CommandId::Open));
   }
+
+  void closesTheSheetThatWasLeftWithItsButton() {
+    demo().growBy(20000);
+    startWith(demo().directory());
+    waitForPhaseTwo();
+    auto& button = inSheet<QPushButton>("cancelButton");
+    click(button);
+    QTRY_COMPARE_WITH_TIMEOUT(button.text(), QStringLiteral("Close"), 100000);
+    QCOMPARE(program().threads().jobsRunning(), 0);
+    QVERIFY(isSheetUp());
+    waitForProjectWindow();
+    press(Qt::Key_Escape);
+    QVERIFY(!isSheetUp());
+    QVERIFY(!project().longJobRunning());
+    QVERIFY(!project().opened());
+    QCOMPARE(strings().model()->rowCount(), 0);
+    QVERIFY(isEnabled(CommandId::Open));
+    openDemo();
+    project().parseProject();
+    QCOMPARE(inSheet<QPushButton>("cancelButton").text(), QStringLiteral("Cancel"));
+    waitForJob();
+  }
 };
 
 static const TestRegistration<OpeningTest> kOpeningRegistration("Opening");

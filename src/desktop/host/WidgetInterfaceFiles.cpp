@@ -24,7 +24,7 @@ Interface<ProjectWindowOutlets> WidgetInterfaceFiles::loadProjectWindow(ProjectW
 }
 
 Interface<LongTimeSheetOutlets> WidgetInterfaceFiles::loadLongTimeSheet(ProjectWindowController& owner) {
-  return connected<LongTimeSheetOutlets>(std::make_unique<LongTimeSheetInterface>(owner));
+  return connected<LongTimeSheetOutlets>(std::make_unique<LongTimeSheetInterface>(owner, m_shell));
 }
 
 Interface<LogWindowOutlets> WidgetInterfaceFiles::loadLogWindow(LogWindowController& owner) {
