@@ -13,7 +13,8 @@ DesktopProgram::DesktopProgram(OwnTexts texts)
       m_panels(m_threads.mailbox(), m_bundle),
       m_recentMenu([this](int tag) { return isRecentItemEnabled(tag); }),
       m_actions(m_delegate, m_bundle),
-      m_interfaces({m_delegate, m_actions, m_sheets, m_panels, m_recentMenu, m_notifications, m_bundle, m_quitPath, m_threads}),
+      m_interfaces(
+          {m_delegate, m_actions, m_sheets, m_panels, m_recentMenu, m_notifications, m_bundle, m_quitPath, m_threads}),
       m_delegate({m_files, m_defaults, m_notifications, m_threads, m_panels, m_sheets, m_interfaces, m_recentMenu,
                   m_systemLog, m_bundle, m_application, m_saves}),
       m_quitPath(m_delegate, m_threads, m_panels, m_application) {
