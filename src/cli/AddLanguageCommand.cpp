@@ -39,7 +39,9 @@ ExitCode addLanguageToProject(ProjectSession& session, const AddLanguageOptions&
 }
 
 ExitCode addNewLanguage(const AddLanguageOptions& options, Console& console) {
-  ProjectSession session(console, {.writing = &options.writing, .command = "add-language " + options.code});
+  ProjectSession session(console, {.leavesDirectoriesToSave = options.save,
+                                   .writing = &options.writing,
+                                   .command = "add-language " + options.code});
   const ExitCode opened = session.openPackage(options.directory);
   if (opened != ExitCode::Fine) return opened;
   if (!session.project().iso639Dict().nameOf(options.code)) {

@@ -81,6 +81,7 @@ ProjectOptions ProjectSession::projectOptions() const {
   options.asksToSave = false;
   options.lockPatience = std::nullopt;
   options.pretendsToSave = m_options.pretends();
+  options.leavesDirectoriesToSave = m_options.leavesDirectoriesToSave;
   options.command = m_options.command;
   options.version = GLOSSMILL_VERSION;
   return options;

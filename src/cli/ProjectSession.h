@@ -22,6 +22,7 @@ class ProjectSession {
   struct Options {
     bool keepsLogs = false;  ///< both of them, to be asked for afterwards
     bool dryRun = false;
+    bool leavesDirectoriesToSave = false;  ///< of new languages
     /// Of a command that writes the project: it is kept for this process from the first read on. Outlives the session.
     const WritingOptions* writing = nullptr;
     std::string command = {};  ///< by which words it was started, for the record of its saves

@@ -20,6 +20,7 @@
 #include "cli/StatusCommand.h"
 #include "cli/TypedCommand.h"
 #include "host/AllocatorSettings.h"
+#include "host/FileSizeLimit.h"
 
 namespace glossmill {
 
@@ -95,6 +96,7 @@ ExitCode run(int count, const char* const* arguments, Console& console) {
 
 int main(int argc, char** argv) {
   glossmill::setAllocatorForScans();
+  glossmill::makeFileSizeLimitAnError();
   glossmill::Console console;
   try {
     return static_cast<int>(glossmill::run(argc, argv, console));

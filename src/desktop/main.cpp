@@ -8,9 +8,11 @@
 #include "desktop/LaunchArguments.h"
 #include "desktop/host/EndSignals.h"
 #include "host/AllocatorSettings.h"
+#include "host/FileSizeLimit.h"
 
 int main(int argc, char** argv) {
   glossmill::setAllocatorForScans();
+  glossmill::makeFileSizeLimitAnError();
   const glossmill::LaunchArguments launch = glossmill::readLaunchArguments(argc, argv, GLOSSMILL_VERSION);
   std::fputs(launch.answer.c_str(), stdout);
   std::fputs(launch.complaint.c_str(), stderr);

@@ -11,6 +11,7 @@
 
 #include "host/AtomicWrite.h"
 #include "host/FileDescriptor.h"
+#include "host/OpenedDirectory.h"
 #include "host/SystemError.h"
 #include "text/Utf8.h"
 
@@ -117,7 +118,11 @@ Result<std::unique_ptr<ByteReader>> PosixFiles::open(const FileUrl& file) {
 }
 
 Outcome PosixFiles::createDirectory(const FileUrl& directory, bool intermediate) {
-  if (mkdir(directory.path().c_str(), 0777) == 0) return Done{};
+  if (mkdir(directory.path().c_str(), 0777) == 0) {
+    const Result<OpenedDirectory> above = OpenedDirectory::open(directory.parent());
+    if (above) above.value().flush();
+    return Done{};
+  }
   const int code = errno;
   if (!intermediate) return systemError(code, "directory");
   if (kindOf(directory) == EntryKind::Directory) return Done{};

@@ -85,9 +85,11 @@ bool isDirectory(const FileUrl& url) {
 
 /// Makes one directory in another that was opened and looked at.
 Outcome makeDirectory(const FileUrl& directory, mode_t mode, const FileUrl& within) {
-  const Result<OpenedDirectory> above = openWithin(directory.parent(), within, directory);
-  if (!above) return above.error();
+  const std::string real = realPath(directory.parent());
+  const FileUrl parent = real.empty() ? directory.parent() : FileUrl(real);
   const std::string name(directory.lastPathComponent());
+  const Result<OpenedDirectory> above = openWithin(parent, within, parent.appending(name));
+  if (!above) return above.error();
   if (mkdirat(above.value().number(), name.c_str(), mode) != 0) return systemError(errno, "directory");
   above.value().flush();
   return Done{};

@@ -34,6 +34,7 @@ struct ProjectOptions {
   bool pretendsToSave = false;                   ///< a save only tells what it would do
   std::optional<std::uint64_t> maxDropped = {};  ///< a save that would drop more entries is refused
   bool keepsJournal = false;                     ///< edits outlive the program until a save has written them
+  bool leavesDirectoriesToSave = false;          ///< the directory of a new language is made when it is saved
   std::string command;                           ///< by which words the project was opened, for the record of its saves
   std::string version;                           ///< of the program, for the same
 };

@@ -3,6 +3,7 @@
 #include "dialogs/SelectLanguageWindowController.h"
 #include "exchange/ExchangeFormat.h"
 #include "project/ProjectWindowController.h"
+#include "safety/ProjectBounds.h"
 #include "text/Format.h"
 
 namespace glossmill {
@@ -92,7 +93,8 @@ std::shared_ptr<Language> ProjectWindowController::addChosenLanguage(const Langu
   table.beginUpdates();
   table.reloadData();
   table.endUpdates();
-  if (m_host.files.kindOf(directory) == EntryKind::Missing && !createLanguageDirectory(*language)) return nullptr;
+  const bool isMade = m_options.leavesDirectoriesToSave || m_host.files.kindOf(directory) != EntryKind::Missing;
+  if (!isMade && !createLanguageDirectory(*language)) return nullptr;
   m_languageController.addObject(language);
   return language;
 }
@@ -105,7 +107,9 @@ FileUrl ProjectWindowController::newLanguageParent() {
 
 bool ProjectWindowController::createLanguageDirectory(const Language& language) {
   const FileUrl& directory = language.localizedStringUrl();
-  const Outcome created = m_host.files.createDirectory(directory, false);
+  const bool anywhere = m_options.allowance.outside;
+  Outcome created = anywhere ? Done{} : checkInside(m_host.saves, m_projectDirectory, directory);
+  if (created) created = m_host.files.createDirectory(directory, false);
   if (created) return true;
   runOkAlert(formatText(localized("Error creating %@ for language %@"), {directory.text(), language.description()}),
              AlertRequest::Cause{directory, created.error()});

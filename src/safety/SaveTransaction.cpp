@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "safety/AbandonedWrites.h"
 #include "safety/FileContent.h"
+#include "safety/ProjectBounds.h"
 
 namespace glossmill {
 
@@ -31,23 +33,31 @@ FileUrl resolvedOr(SaveDisk& disk, const FileUrl& url) {
 }  // namespace
 
 SaveTransaction::SaveTransaction(Files& files, SaveDisk& disk, const SaveOrder& order)
-    : m_files(files), m_disk(disk), m_order(order), m_versions(files, disk, order.project) {}
+    : m_files(files),
+      m_disk(disk),
+      m_order(order),
+      m_record(files, disk, {resolvedOr(disk, order.project), order.time, order.version, order.command, {}, {}}) {}
 
 SaveResult SaveTransaction::save(const std::vector<FileText>& texts) {
   m_result = {};
   countDropped(texts);
   for (const FileText& text : texts) lookForChange(text);
-  if (!m_order.pretends && !m_result.refusal) removeAbandoned(texts);
+  if (!m_order.pretends && !m_result.refusal) {
+    removeAbandonedWrites(m_disk, m_record.versions(), texts);
+    announceDirectories(texts);
+  }
   std::vector<Step> steps(texts.size());
   for (std::size_t at = 0; at < texts.size() && !m_result.refusal; ++at) prepare(texts[at], steps[at]);
   if (!m_result.refusal) keepVersion(steps);
   if (m_result.refusal) {
     removeDirectories(steps);
+    m_record.forget();
     return std::move(m_result);
   }
   for (Step& step : steps) putInPlace(step);
   for (const Step& step : steps) m_result.files.push_back(step.outcome);
-  if (m_result.id && m_versions.finish(*m_result.id)) m_versions.forgetOld(m_order.time, VersionLimits());
+  m_result.id = m_record.id();
+  if (m_record.finish()) m_record.versions().forgetOld(m_order.time, VersionLimits());
   return std::move(m_result);
 }
 
@@ -182,23 +192,23 @@ Outcome SaveTransaction::makeDirectoryFor(const FileUrl& file, FileOutcome& outc
 
 /// Says what would become of the file. Where it really lies is asked, as that is what would refuse it.
 void SaveTransaction::pretend(const FileText& text, Step& step) {
-  const FileUrl target = resolvedOr(m_disk, text.file);
-  const std::string project = resolvedOr(m_disk, m_order.project).path() + "/";
-  if (!m_order.allowance.outside && !target.path().starts_with(project)) {
-    return refuse(SaveRefusal::Kind::Outside, text.file, "It lies outside the project: it is " + target.path() + ".");
+  const Outcome inside = m_order.allowance.outside ? Done{} : checkInside(m_disk, m_order.project, text.file);
+  if (!inside && inside.error().kind == ErrorKind::Outside) {
+    return refuse(SaveRefusal::Kind::Outside, text.file, inside.error().sentence);
   }
   const bool exists = m_files.kindOf(text.file) != EntryKind::Missing;
   step.outcome.kind = exists ? FileOutcome::Kind::Changed : FileOutcome::Kind::Created;
   step.outcome.directories = missingDirectories(text.file);
 }
 
-/// What killed processes left lying. Whether one of them left a save that can be finished was asked before.
-void SaveTransaction::removeAbandoned(const std::vector<FileText>& texts) {
+void SaveTransaction::announceDirectories(const std::vector<FileText>& texts) {
+  std::vector<FileUrl> directories;
   for (const FileText& text : texts) {
-    for (const FileUrl& temporary : m_disk.abandonedWrites(text.file.parent())) {
-      if (!m_disk.remove(temporary)) return;
-    }
+    if (!text.bytes) continue;
+    const std::vector<FileUrl> missing = missingDirectories(text.file);
+    directories.insert(directories.end(), missing.begin(), missing.end());
   }
+  m_record.announce(directories);
 }
 
 /// After a refusal everything is as it was; a directory that somebody has filled meanwhile stays.
@@ -214,28 +224,27 @@ Outcome SaveTransaction::copyFormer(const std::vector<Step>& steps) {
     const bool replaces = step.isRemoval || (step.write && step.write->former());
     if (!replaces) continue;
     if (!step.saved.before) return Error{"What the file holds now cannot be read: " + step.saved.file.path()};
-    const Outcome copied = m_versions.keepContent(step.saved.file, *step.saved.before);
+    const Outcome copied = m_record.versions().keepContent(step.saved.file, *step.saved.before);
     if (!copied) return copied;
   }
   return Done{};
 }
 
-/// From here on a kill leaves something to finish or take back; without a copy there is nothing that could.
+/// Without a copy there is nothing that could be taken back.
 void SaveTransaction::keepVersion(const std::vector<Step>& steps) {
-  SaveManifest manifest{resolvedOr(m_disk, m_order.project), m_order.time, m_order.version, m_order.command, {}, {}};
+  std::vector<SavedFile> saved;
+  std::vector<FileUrl> directories;
   for (const Step& step : steps) {
     const std::vector<FileUrl>& made = step.outcome.directories;
-    manifest.directories.insert(manifest.directories.end(), made.begin(), made.end());
-    if (step.isToBeDone()) manifest.files.push_back(step.saved);
+    directories.insert(directories.end(), made.begin(), made.end());
+    if (step.isToBeDone()) saved.push_back(step.saved);
   }
-  if (manifest.files.empty()) return;
-  const Outcome copied = copyFormer(steps);
-  const Result<std::string> id = copied ? m_versions.begin(manifest) : copied.error();
-  if (id) {
-    m_result.id = id.value();
-  } else if (!m_order.allowance.noCopy) {
-    refuse(SaveRefusal::Kind::NoCopy, m_order.project, id.error().sentence);
-  }
+  if (saved.empty()) return m_record.forget();
+  Outcome kept = copyFormer(steps);
+  if (kept) kept = m_record.note(saved, directories);
+  if (kept) return;
+  m_record.forget();
+  if (!m_order.allowance.noCopy) refuse(SaveRefusal::Kind::NoCopy, m_order.project, kept.error().sentence);
 }
 
 void SaveTransaction::putInPlace(Step& step) {

@@ -11,7 +11,7 @@
 #include "model/SaveAllowance.h"
 #include "platform/Files.h"
 #include "platform/SaveDisk.h"
-#include "safety/SavedVersions.h"
+#include "safety/SaveRecord.h"
 
 namespace glossmill {
 
@@ -76,7 +76,7 @@ class SaveTransaction {
   void prepareRemoval(const FileText& text, Step& step);
   std::vector<FileUrl> missingDirectories(const FileUrl& file);
   void pretend(const FileText& text, Step& step);
-  void removeAbandoned(const std::vector<FileText>& texts);
+  void announceDirectories(const std::vector<FileText>& texts);
   Outcome makeDirectoryFor(const FileUrl& file, FileOutcome& outcome);
   void removeDirectories(std::vector<Step>& steps);
   Outcome copyFormer(const std::vector<Step>& steps);
@@ -88,7 +88,7 @@ class SaveTransaction {
   Files& m_files;
   SaveDisk& m_disk;
   SaveOrder m_order;
-  SavedVersions m_versions;
+  SaveRecord m_record;
   SaveResult m_result;
 };
 

@@ -84,11 +84,17 @@ Result<std::string> SavedVersions::begin(const SaveManifest& manifest) {
     if (!place) return place.error();
     if (m_files.kindOf(place.value()) != EntryKind::Missing) continue;
     Outcome done = m_disk.createPrivateDirectory(place.value());
-    const std::string text = manifest.text();
-    if (done) done = m_disk.writePrivate(place.value().appending(kUnfinished), onePiece(text));
+    if (done) done = amend(id, manifest);
     return done ? Result<std::string>(id) : done.error();
   }
   return Error{"There are too many saves of one second."};
+}
+
+Outcome SavedVersions::amend(const std::string& id, const SaveManifest& manifest) {
+  const Result<FileUrl> place = directoryOf(id);
+  if (!place) return place.error();
+  const std::string text = manifest.text();
+  return m_disk.writePrivate(place.value().appending(kUnfinished), onePiece(text));
 }
 
 Outcome SavedVersions::finish(const std::string& id) {
@@ -164,6 +170,31 @@ void SavedVersions::forgetOld(std::int64_t now, const VersionLimits& limits) {
     if (!drop(version.id)) return;  // the next save tries again
   }
   removeContentsBut(needed);
+}
+
+std::vector<FileUrl> SavedVersions::savesDirectories() {
+  std::vector<FileUrl> directories;
+  if (!m_directory) return directories;
+  const FileUrl saves = m_directory.value().appending("saves");
+  const auto entries = m_files.list(saves);
+  if (!entries) return directories;
+  for (const DirectoryEntry& entry : entries.value()) directories.push_back(saves.appending(entry.name));
+  return directories;
+}
+
+std::vector<FileUrl> SavedVersions::directories() {
+  std::vector<FileUrl> directories = savesDirectories();
+  if (!m_directory) return directories;
+  directories.push_back(m_directory.value());
+  directories.push_back(m_directory.value().appending("contents"));
+  return directories;
+}
+
+void SavedVersions::removeUnnoted() {
+  for (const FileUrl& directory : savesDirectories()) {
+    const auto entries = m_files.list(directory);
+    if (entries && entries.value().empty()) static_cast<void>(m_disk.remove(directory));
+  }
 }
 
 void SavedVersions::removeContentsBut(const std::vector<std::string>& needed) {

@@ -40,16 +40,23 @@ class SavedVersions {
 
   /// Notes a save that is about to begin; gives its id.
   Result<std::string> begin(const SaveManifest& manifest);
+  /// Notes more of a save that has begun.
+  Outcome amend(const std::string& id, const SaveManifest& manifest);
   Outcome finish(const std::string& id);
   /// Forgets a save; contents that nobody needs any more go with the next forgetOld().
   Outcome drop(const std::string& id);
 
   /// Newest first; what cannot be read is left out.
   std::vector<SavedVersion> list();
+  /// Where files are kept.
+  std::vector<FileUrl> directories();
+  /// Removes saves whose process was killed before they were noted.
+  void removeUnnoted();
   /// Removes what is beyond the limits; `now` in seconds since 1970.
   void forgetOld(std::int64_t now, const VersionLimits& limits);
 
  private:
+  std::vector<FileUrl> savesDirectories();
   Result<FileUrl> directoryOf(std::string_view id);
   Result<FileUrl> fileOf(const ContentHash& hash);
   std::optional<SavedVersion> versionIn(const std::string& id);

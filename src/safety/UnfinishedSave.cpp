@@ -23,6 +23,14 @@ Outcome removeTemporaries(SaveDisk& disk, const SaveManifest& manifest) {
   return Done{};
 }
 
+/// Those that were made for the save and are empty still.
+void removeDirectories(Files& files, SaveDisk& disk, const SaveManifest& manifest) {
+  for (auto directory = manifest.directories.rbegin(); directory != manifest.directories.rend(); ++directory) {
+    const auto entries = files.list(*directory);
+    if (entries && entries.value().empty()) static_cast<void>(disk.remove(*directory));
+  }
+}
+
 Outcome finishFile(Files& files, SaveDisk& disk, const SavedFile& file) {
   const FileState state = stateOf(files, file);
   if (state == FileState::After) return Done{};
@@ -47,7 +55,9 @@ std::optional<SavedVersion> findUnfinishedSave(Files& files, SaveDisk& disk, Sav
     const bool isOpen =
         std::any_of(saved.begin(), saved.end(), [&files](const SavedFile& file) { return hasTemporary(files, file); });
     if (std::all_of(saved.begin(), saved.end(), isStill(FileState::Before))) {
-      if (!removeTemporaries(disk, version.manifest) || !versions.drop(version.id)) return version;
+      if (!removeTemporaries(disk, version.manifest)) return version;
+      removeDirectories(files, disk, version.manifest);
+      if (!versions.drop(version.id)) return version;
     } else if (!isOpen || std::all_of(saved.begin(), saved.end(), isStill(FileState::After))) {
       if (!versions.finish(version.id)) return version;
     } else {

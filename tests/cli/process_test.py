@@ -9,6 +9,7 @@ import json
 import os
 import pathlib
 import pty
+import resource
 import signal
 import subprocess
 import sys
@@ -209,6 +210,33 @@ class Links(ProcessTest):
                              timeout=TIME_LIMIT)
         self.assertEqual(run.returncode, 3)
         self.assertIn(b"--allow incomplete", run.stderr)
+
+
+class Limits(ProcessTest):
+    def test_a_file_that_grows_too_large_is_an_error_like_a_full_disk(self):
+        self.write("main.m", "".join(f'NSLocalizedString(@"key {n}", @"");\n' for n in range(1000)))
+        before = '"key 1" = "one";\n'
+        self.write("en.lproj/Localizable.strings", before)
+        run = subprocess.run([PROGRAM, "fill", "--language", "en", str(self.project)], capture_output=True, check=False,
+                             preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (4096, 4096)))
+        self.assertEqual(run.returncode, 3)
+        self.assertIn(b"larger than the system allows", run.stderr)
+        self.assertEqual((self.project / "en.lproj" / "Localizable.strings").read_text(encoding="utf-8"), before)
+        self.assertEqual(os.listdir(self.project / "en.lproj"), ["Localizable.strings"])
+
+    def test_no_language_is_added_behind_a_link_out_of_the_project(self):
+        outside = pathlib.Path(self.folder.name) / "outside"
+        outside.mkdir()
+        os.symlink(outside, self.project / "App")
+        for options in ((), ("--save",), ("--save", "--dry-run")):
+            run = subprocess.run([PROGRAM, "add-language", *options, str(self.project), "sv"], capture_output=True,
+                                 check=False)
+            self.assertEqual(run.returncode, 3, options)
+            self.assertIn(f"It lies outside the project: it is {outside}/sv.lproj".encode(), run.stderr)
+            self.assertEqual(os.listdir(outside), [])
+        run = subprocess.run([PROGRAM, "add-language", "--save", "--allow", "outside", str(self.project), "sv"],
+                             capture_output=True, check=False)
+        self.assertEqual((run.returncode, os.listdir(outside)), (0, ["sv.lproj"]))
 
 
 class Dropping(ProcessTest):

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "safety/ProjectState.h"
 #include "safety/Restore.h"
 #include "safety/SaveTransaction.h"
 #include "safety/UnfinishedSave.h"
@@ -262,6 +263,44 @@ TEST_F(SaveTransactionTest, OnlyTheFilesThatAreWantedAreTakenBack) {
   const RestorePlan plan = planRestore(files, versions, versions.list().at(0), {wanted}, false);
   ASSERT_EQ(plan.texts.size(), 1U);
   EXPECT_EQ(plan.texts[0].file, wanted);
+}
+
+TEST_F(SaveTransactionTest, AKillNeverLeavesADirectoryThatNobodyFills) {
+  const std::vector<FileText> texts = {textFor("/x/App/deep/sv.lproj/Localizable.strings", "new sv")};
+  const SaveOrder order{kProject, "0.1", "save", 1795283100, {}, false};
+  SaveTransaction(files, disk, order).save(texts);
+  const int operations = static_cast<int>(disk.operations().size());
+  EXPECT_EQ(placesOf("mkdir /x").size(), 2U);
+  EXPECT_LT(placesOf("keep /state").front(), placesOf("mkdir /x").front());
+  for (int operation = 1; operation <= operations; ++operation) {
+    InMemoryFiles fresh;
+    fresh.addDirectory("/x/App");
+    InMemorySaveDisk other(fresh);
+    other.killBefore(operation);
+    EXPECT_THROW(SaveTransaction(fresh, other, order).save(texts), InMemorySaveDisk::Killed);
+    other.goOn();
+    SavedVersions versions(fresh, other, kProject);
+    EXPECT_EQ(findUnfinishedSave(fresh, other, versions), std::nullopt) << operation;
+    const bool isWritten = fresh.exists("/x/App/deep/sv.lproj/Localizable.strings");
+    EXPECT_EQ(fresh.exists("/x/App/deep"), isWritten) << operation;
+    EXPECT_EQ(SaveTransaction(fresh, other, order).save(texts).refusal, std::nullopt);
+    EXPECT_EQ(fresh.bytesOf("/x/App/deep/sv.lproj/Localizable.strings"), "new sv") << operation;
+  }
+}
+
+TEST_F(SaveTransactionTest, ARefusedSaveLeavesNoRecordOfTheDirectoriesThatItMade) {
+  files.addFile("/home/mine", "mine");
+  files.addLink("/x/App/nb.lproj/Localizable.strings", "/home/mine");
+  ASSERT_TRUE(save({textFor("/x/App/sv.lproj/Localizable.strings", "sv"), newTexts()[2]}).refusal);
+  EXPECT_TRUE(SavedVersions(files, disk, kProject).list().empty());
+}
+
+TEST_F(SaveTransactionTest, ASaveThatWasNeverNotedGoesWithTheNext) {
+  const FileUrl saves = stateDirectoryOf(disk, kProject).value().appending("saves");
+  files.addDirectory(saves.appending("2026-01-01T00-00-00Z").path());
+  save(newTexts());
+  EXPECT_FALSE(files.exists(saves.appending("2026-01-01T00-00-00Z").path()));
+  EXPECT_EQ(SavedVersions(files, disk, kProject).list().size(), 1U);
 }
 
 /// Where a kill in front of each operation leaves the files, and what the next command makes of it.
