@@ -14,7 +14,7 @@ namespace glossmill {
 namespace {
 
 struct StatusOptions {
-  std::string directory;
+  ProjectChoice project;
   std::vector<std::string> languages;
   bool json = false;
   bool missing = false;
@@ -24,7 +24,7 @@ struct StatusOptions {
 template <typename Visit>
 void eachMissing(const ProjectSession& session, const Language& language, Visit visit) {
   for (const std::shared_ptr<LocalizeString>& record : session.project().stringList()) {
-    if (!record->languagesDict().contains(language.code())) visit(*record);
+    if (record->isMissing(language.code())) visit(*record);
   }
 }
 
@@ -79,7 +79,7 @@ void printText(const ProjectSession& session, const LanguageArray& languages, bo
 
 ExitCode status(const StatusOptions& options, Console& console) {
   ProjectSession session(console, {});
-  const ExitCode opened = session.open(options.directory);
+  const ExitCode opened = session.open(options.project);
   if (opened != ExitCode::Fine) return opened;
   const std::optional<LanguageArray> languages = chosenLanguages(session, options.languages);
   if (!languages) return ExitCode::WrongUsage;
@@ -95,7 +95,7 @@ void addStatusCommand(CLI::App& program, TypedCommand& typed) {
                                  {"status", "Show how much of each language is translated",
                                   "~/Projects/Harbour --language de --language fr --missing"},
                                  [options](Console& console) { return status(*options, console); });
-  addDirectory(command, options->directory);
+  addProject(command, options->project);
   addLanguages(command, options->languages);
   addFlag(command, "--missing", options->missing, "List the missing keys with comment and file");
   addFlag(command, "--json", options->json, "Print it as JSON");

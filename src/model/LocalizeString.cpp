@@ -30,15 +30,27 @@ std::string LocalizeString::comment() const {
   return joined;
 }
 
+bool LocalizeString::isMissing(LanguageCode language) const {
+  if (!m_tableRow) return !m_languagesDict.contains(language);
+  return m_tableRow->isWanted && m_languagesDict.find(language).value_or("").empty();
+}
+
+/// Every entry is of one of the project's languages.
+std::int64_t LocalizeString::missingIn(const ProjectContext& project) const {
+  auto present = static_cast<std::int64_t>(m_languagesDict.count());
+  if (m_tableRow && !m_tableRow->isWanted) return 0;
+  if (m_tableRow) m_languagesDict.each([&present](LanguageCode, std::string_view text) { present -= text.empty(); });
+  return project.totalLanguages() - present;
+}
+
 Status LocalizeString::status(const ProjectContext* project) const {
   if (!project) return Status::Incomplete;
-  const auto count = static_cast<std::int64_t>(m_languagesDict.count());
-  return project->totalLanguages() == count ? Status::Complete : Status::Incomplete;
+  return missingIn(*project) == 0 ? Status::Complete : Status::Incomplete;
 }
 
 std::string LocalizeString::statusString(const StatusTexts& texts, const ProjectContext* project) const {
   if (!project) return texts.incompleteString;
-  const std::int64_t missing = project->totalLanguages() - static_cast<std::int64_t>(m_languagesDict.count());
+  const std::int64_t missing = missingIn(*project);
   return missing == 0 ? texts.completeString : texts.missingString(missing);
 }
 

@@ -52,8 +52,13 @@ class LocalizeString {
   /// The comments, joined by single line feeds; an empty comment at the front gives no leading line feed.
   std::string comment() const;
 
+  /// Whether a translation into this language is still to be made. Under the classic rules an empty text is one; under
+  /// xcode's it is none, and what is not wanted is never missing.
+  bool isMissing(LanguageCode language) const;
+
   /// Complete when there are exactly as many translations as the project has languages (rule 30); without a project,
   /// Incomplete.
+  /// Under xcode's rules: when no translation is missing.
   Status status(const ProjectContext* project) const;
   /// The same as a text, but with the count of what is missing, which is negative when there are too many.
   std::string statusString(const StatusTexts& texts, const ProjectContext* project) const;
@@ -67,6 +72,8 @@ class LocalizeString {
 
  private:
   friend class EditDoor;
+
+  std::int64_t missingIn(const ProjectContext& project) const;
 
   std::string m_name;
   std::string m_language;

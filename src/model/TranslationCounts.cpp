@@ -2,22 +2,51 @@
 
 namespace glossmill {
 
-void TranslationCounts::adjust(LanguageCode code, int difference) {
+namespace {
+
+/// What the edit adds to the translations of a record that has a table.
+int tableDifference(const Edit& edit) {
+  const auto isPresent = [](const std::optional<std::string>& text) { return text && !text->empty() ? 1 : 0; };
+  return edit.record->tableRow()->isWanted ? isPresent(edit.after) - isPresent(edit.before) : 0;
+}
+
+}  // namespace
+
+void TranslationCounts::adjust(const Edit& edit) {
   if (!m_valid) return;
-  if (m_present.size() <= code.number()) m_present.resize(code.number() + 1);
-  m_present[code.number()] += static_cast<std::size_t>(difference);
+  if (m_present.size() <= edit.language.number()) m_present.resize(edit.language.number() + 1);
+  const int difference = edit.record->tableRow() ? tableDifference(edit) : edit.entryDifference();
+  m_present[edit.language.number()] += static_cast<std::size_t>(difference);
 }
 
 std::size_t TranslationCounts::missing(LanguageCode code, const StringArray& records) {
   if (!m_valid) count(records);
   const std::size_t present = code.number() < m_present.size() ? m_present[code.number()] : 0;
-  return records.size() - present;
+  return m_wanted - present;
 }
 
 void TranslationCounts::count(const StringArray& records) {
   m_present.clear();
-  for (const std::shared_ptr<LocalizeString>& record : records) record->languagesDict().addTo(m_present);
+  m_wanted = 0;
+  for (const std::shared_ptr<LocalizeString>& record : records) {
+    if (record->tableRow()) {
+      countRow(*record);
+    } else {
+      record->languagesDict().addTo(m_present);
+      ++m_wanted;
+    }
+  }
   m_valid = true;
+}
+
+void TranslationCounts::countRow(const LocalizeString& record) {
+  if (!record.tableRow()->isWanted) return;
+  ++m_wanted;
+  record.languagesDict().each([this](LanguageCode code, std::string_view text) {
+    if (text.empty()) return;
+    if (m_present.size() <= code.number()) m_present.resize(code.number() + 1);
+    ++m_present[code.number()];
+  });
 }
 
 }  // namespace glossmill

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "model/Edit.h"
 #include "model/LanguageCode.h"
 #include "model/LocalizeString.h"
 
@@ -14,15 +15,17 @@ class TranslationCounts {
  public:
   /// Something else than a single edit has changed: the next question counts again.
   void invalidate() { m_valid = false; }
-  void adjust(LanguageCode code, int difference);
-  /// How many of `records` lack an entry for the language.
+  void adjust(const Edit& edit);
+  /// How many of `records` miss a translation into the language.
   std::size_t missing(LanguageCode code, const StringArray& records);
 
  private:
   void count(const StringArray& records);
+  void countRow(const LocalizeString& record);
 
   bool m_valid = false;
-  std::vector<std::size_t> m_present;  ///< by code number
+  std::size_t m_wanted = 0;            ///< records of which every language is to have a translation
+  std::vector<std::size_t> m_present;  ///< how many of these have one, by code number
 };
 
 }  // namespace glossmill

@@ -67,7 +67,7 @@ void ProjectWindowController::countApplied(const Edit& edit, EditKind kind) {
   if (kind == EditKind::Undo || kind == EditKind::Recovery) {
     m_counts.invalidate();
   } else {
-    m_counts.adjust(edit.language, edit.entryDifference());
+    m_counts.adjust(edit);
   }
 }
 

@@ -37,9 +37,9 @@ TEST(TranslationCounts, FollowASingleEdit) {
   const StringArray records = threeRecords();
   TranslationCounts counts;
   EXPECT_EQ(counts.missing(kGerman, records), 3U);
-  counts.adjust(kGerman, 1);
+  counts.adjust({records[0], kGerman, std::nullopt, "Öffnen"});
   EXPECT_EQ(counts.missing(kGerman, records), 2U);
-  counts.adjust(kGerman, -1);
+  counts.adjust({records[0], kGerman, "Öffnen", std::nullopt});
   EXPECT_EQ(counts.missing(kGerman, records), 3U);
 }
 
@@ -48,7 +48,7 @@ TEST(TranslationCounts, FollowAnEditInALanguageThatWasNotThereBefore) {
   TranslationCounts counts;
   EXPECT_EQ(counts.missing(kGerman, records), 3U);
   const LanguageCode added("a language that was just added");
-  counts.adjust(added, 1);
+  counts.adjust({records[0], added, std::nullopt, "Öffnen"});
   EXPECT_EQ(counts.missing(added, records), 2U);
 }
 
@@ -56,7 +56,7 @@ TEST(TranslationCounts, CountAnEditBeforeTheFirstQuestionOnce) {
   const StringArray records = threeRecords();
   store(*records[0], kGerman, "Öffnen");
   TranslationCounts counts;
-  counts.adjust(kGerman, 1);
+  counts.adjust({records[0], kGerman, std::nullopt, "Öffnen"});
   EXPECT_EQ(counts.missing(kGerman, records), 2U);
 }
 
@@ -68,6 +68,35 @@ TEST(TranslationCounts, CountAnewAfterALargerChange) {
   for (const auto& record : records) store(*record, kGerman, "Öffnen");
   records.push_back(std::make_shared<LocalizeString>());
   counts.invalidate();
+  EXPECT_EQ(counts.missing(kGerman, records), 1U);
+}
+
+std::shared_ptr<LocalizeString> tableRecord(bool isWanted) {
+  auto record = std::make_shared<LocalizeString>();
+  auto row = std::make_unique<TableRow>();
+  row->isWanted = isWanted;
+  record->setTableRow(std::move(row));
+  return record;
+}
+
+TEST(TranslationCounts, OfTablesAnEmptyTextIsMissing) {
+  const StringArray records{tableRecord(true), tableRecord(true)};
+  store(*records[0], kGerman, "");
+  TranslationCounts counts;
+  EXPECT_EQ(counts.missing(kGerman, records), 2U);
+  counts.adjust({records[0], kGerman, "", "Öffnen"});
+  EXPECT_EQ(counts.missing(kGerman, records), 1U);
+  counts.adjust({records[0], kGerman, "Öffnen", "Auf"});
+  EXPECT_EQ(counts.missing(kGerman, records), 1U);
+  counts.adjust({records[0], kGerman, "Auf", ""});
+  EXPECT_EQ(counts.missing(kGerman, records), 2U);
+}
+
+TEST(TranslationCounts, OfTablesOnlyWhatIsWantedIsMissing) {
+  const StringArray records{tableRecord(false), tableRecord(true)};
+  TranslationCounts counts;
+  EXPECT_EQ(counts.missing(kGerman, records), 1U);
+  counts.adjust({records[0], kGerman, std::nullopt, "Öffnen"});
   EXPECT_EQ(counts.missing(kGerman, records), 1U);
 }
 
