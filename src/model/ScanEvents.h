@@ -11,6 +11,7 @@
 namespace glossmill {
 
 class Language;
+struct Problem;
 
 /// What a call in a source lacks that was not taken.
 enum class CallRejection {
@@ -98,10 +99,15 @@ struct StringsFileRead {
   std::size_t entries;  ///< that were taken, repetitions of a key among them
 };
 
+/// Of xcode's rules, which tell nothing of calls and entries one by one.
+struct ProblemFound {
+  const Problem& problem;
+};
+
 using ScanEvent =
     std::variant<PackageFound, NoPackageFound, DirectoryUnread, LinksCutOff, ProjectFileUnread, OldLanguageName,
                  StringsFileFound, SourceBegins, SourceUnread, CallRejected, StringsFileMissing, StringsFileBegins,
-                 StringsFileUnread, LinesCounted, EntryRejected, EntryWithoutMatch, StringsFileRead>;
+                 StringsFileUnread, LinesCounted, EntryRejected, EntryWithoutMatch, StringsFileRead, ProblemFound>;
 
 /// Hears of what happens while a project is read: at once, in its order, on the thread that reads.
 class ScanListener {

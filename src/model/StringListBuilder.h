@@ -19,10 +19,14 @@ class StringListBuilder {
   /// repetition is deliberately (rule 20) not recorded.
   void add(const std::vector<SourceString>& strings, const FileUrl& file);
 
+  /// Takes over records that were made elsewhere; their keys are not among keys().
+  void adopt(StringArray records) { m_records = std::move(records); }
+
   const StringArray& records() const { return m_records; }
   const KeyIndex& keys() const { return m_keys; }
   /// Keeps the translations of all the records.
   TextArena& arena() { return *m_arena; }
+  const std::shared_ptr<TextArena>& sharedArena() const { return m_arena; }
 
  private:
   std::vector<std::uint32_t> hashesOf(const std::vector<SourceString>& strings) const;

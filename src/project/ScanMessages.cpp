@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "model/Language.h"
+#include "model/Problem.h"
 
 namespace glossmill {
 
@@ -84,6 +85,14 @@ void ScanMessages::writeEvent(const EntryRejected& event) {
 void ScanMessages::writeEvent(const EntryWithoutMatch& event) {
   m_logText({m_entryWithoutMatch, {event.key}});
   m_systemLog.write({"String in Localizable.strings found with no match in Code:\n%@", {event.key}});
+}
+
+/// As compilers say it.
+void ScanMessages::writeEvent(const ProblemFound& event) {
+  const Problem& problem = event.problem;
+  m_logText(
+      {"%@:%ld:%ld: %@",
+       {problem.file.lastPathComponent(), std::int64_t{problem.line}, std::int64_t{problem.column}, problem.text}});
 }
 
 }  // namespace glossmill

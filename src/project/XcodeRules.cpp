@@ -1,13 +1,18 @@
 #include "project/XcodeRules.h"
 
 #include "xcode/StringsSave.h"
+#include "xcode/XcodeScan.h"
 
 namespace glossmill {
 
-/// Nothing is found yet; no user can choose these rules.
-void XcodeRules::readSources(const FileUrl&, const ScanInput&, ScanMemory&, ScanResult&) const {}
+void XcodeRules::readSources(const FileUrl& directory, const ScanInput& input, ScanMemory& memory,
+                             ScanResult& result) const {
+  readXcodeSources(directory, input, memory, result);
+}
 
-ScanEnd XcodeRules::readStringsFiles(const ScanInput&, ScanResult&) const {
+/// Also a scan that was canceled is complete, so that its end is heard of.
+ScanEnd XcodeRules::readStringsFiles(const ScanInput& input, ScanResult& result) const {
+  readXcodeStrings(input, result);
   return ScanEnd::Complete;
 }
 

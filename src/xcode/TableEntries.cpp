@@ -1,0 +1,155 @@
+#include "xcode/TableEntries.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "platform/ReadBytes.h"
+#include "xcode/SourceText.h"
+#include "xcode/StringsDocument.h"
+
+namespace glossmill {
+
+namespace {
+
+constexpr std::string_view kBinaryList = "bplist";
+
+std::string_view withoutSpace(std::string_view text) {
+  const auto isSpace = [](char byte) { return isBlank(byte) || isLineEnd(byte); };
+  while (!text.empty() && isSpace(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isSpace(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+/// The development language's file comes first, so that rows have its order.
+std::vector<std::size_t> readingOrder(const StringsTable& table) {
+  std::vector<std::size_t> order;
+  for (std::size_t file = 0; file < table.files.size(); ++file) order.push_back(file);
+  std::stable_partition(order.begin(), order.end(),
+                        [&table](std::size_t file) { return table.files[file].language == table.development; });
+  return order;
+}
+
+std::string lineList(const std::vector<std::size_t>& lines) {
+  std::string list;
+  for (std::size_t at = 0; at < lines.size(); ++at) {
+    if (at > 0) list += at + 1 == lines.size() ? " and " : ", ";
+    list += std::to_string(lines[at]);
+  }
+  return list;
+}
+
+class TableReader {
+ public:
+  TableReader(TableList::Table& table, TextArena& arena, const ScanInput& input,
+              const std::function<void(Problem)>& report)
+      : m_table(table), m_arena(arena), m_input(input), m_report(report) {}
+
+  TableEntries read() {
+    m_entries.columns.resize(m_table.files.size());
+    for (const std::size_t file : readingOrder(*m_table.table)) {
+      if (!m_input.canceled.isSet()) readFile(file);
+    }
+    return std::move(m_entries);
+  }
+
+ private:
+  void readFile(std::size_t number) {
+    StringsTable::File& file = m_table.table->files[number];
+    m_input.listener.happened(StringsFileBegins{file.file});
+    Result<std::string> bytes = readBytes(m_input.files, file.file);
+    if (!bytes) {
+      file.hasMistake = true;
+      m_input.listener.happened(StringsFileUnread{file.file, bytes.error()});
+      return reportFile(file, {0, 0}, "strings-unread", bytes.error().sentence);
+    }
+    if (bytes.value().starts_with(kBinaryList)) {
+      file.hasMistake = true;
+      return reportFile(file, {0, 0}, "not-read", "A binary property list is not read");
+    }
+    const StringsDocument document(std::move(bytes.value()),
+                                   file.encoding ? encodingOfNumber(*file.encoding) : std::nullopt);
+    takeEntries(number, document);
+    m_input.listener.happened(StringsFileRead{file.file, document.entries().size()});
+    if (!document.error()) return;
+    file.hasMistake = true;
+    reportFile(file, document.error()->place, "strings-syntax", document.error()->sentence);
+  }
+
+  void takeEntries(std::size_t number, const StringsDocument& document) {
+    std::vector<StoredText>& column = m_entries.columns[number];
+    std::size_t end = 0;
+    bool repeats = false;
+    for (const StringsEntry& entry : document.entries()) {
+      const KeyIndex::Number key = numberOf(document, entry);
+      if (key >= column.size()) column.resize(key + 1);
+      repeats = repeats || column[key];
+      column[key] = valueOf(document, entry);
+      if (document.body().syntax == StringsSyntax::Words) takeComment(key, document, end, entry.begin);
+      end = entry.end;
+    }
+    if (repeats) reportRepetitions(m_table.table->files[number], document);
+  }
+
+  KeyIndex::Number numberOf(const StringsDocument& document, const StringsEntry& entry) {
+    if (entry.key.isPlain) return m_entries.keys.add(document.spelled(entry.key)).first;
+    return m_entries.keys.add(document.keyOf(entry)).first;
+  }
+
+  StoredText valueOf(const StringsDocument& document, const StringsEntry& entry) {
+    if (entry.value.isPlain) return m_arena.add(document.spelled(entry.value));
+    return m_arena.add(document.valueOf(entry));
+  }
+
+  void takeComment(KeyIndex::Number key, const StringsDocument& document, std::size_t from, std::size_t to) {
+    if (key < m_entries.comments.size() && m_entries.comments[key]) return;
+    const std::string_view gap = std::string_view(document.text()).substr(from, to - from);
+    const std::string_view comment = commentInGap(gap, from > 0);
+    if (comment.empty()) return;
+    if (key >= m_entries.comments.size()) m_entries.comments.resize(key + 1);
+    m_entries.comments[key] = m_arena.add(comment);
+  }
+
+  void reportRepetitions(const StringsTable::File& file, const StringsDocument& document) {
+    for (const StringsDocument::RepeatedKey& repeated : document.repeatedKeys()) {
+      reportFile(
+          file, {repeated.lines.back(), 0}, "repeated-key",
+          "The key \"" + repeated.key + "\" stands on the lines " + lineList(repeated.lines) + "; the last one counts");
+    }
+  }
+
+  void reportFile(const StringsTable::File& file, TextPlace place, std::string_view kind, std::string text) {
+    m_report({file.file, static_cast<std::uint32_t>(place.line), static_cast<std::uint32_t>(place.column), kind,
+              std::move(text)});
+  }
+
+  TableList::Table& m_table;
+  TextArena& m_arena;
+  const ScanInput& m_input;
+  const std::function<void(Problem)>& m_report;
+  TableEntries m_entries;
+};
+
+}  // namespace
+
+TableEntries readTable(TableList::Table& table, TextArena& arena, const ScanInput& input,
+                       const std::function<void(Problem)>& report) {
+  return TableReader(table, arena, input, report).read();
+}
+
+std::string_view commentInGap(std::string_view gap, bool followsEntry) {
+  std::string_view last;
+  bool isOnEntryLine = followsEntry;
+  for (std::size_t at = 0; at + 1 < gap.size(); ++at) {
+    if (isLineEnd(gap[at])) isOnEntryLine = false;
+    if (gap[at] != '/' || (gap[at + 1] != '*' && gap[at + 1] != '/')) continue;
+    const bool isBlock = gap[at + 1] == '*';
+    const std::size_t end = isBlock ? gap.find("*/", at + 2) : gap.find_first_of("\r\n", at + 2);
+    const std::size_t length = std::min(end, gap.size()) - (at + 2);
+    if (!isOnEntryLine) last = withoutSpace(gap.substr(at + 2, length));
+    if (end == std::string_view::npos) break;
+    at = isBlock ? end + 1 : end - 1;
+  }
+  return last;
+}
+
+}  // namespace glossmill
