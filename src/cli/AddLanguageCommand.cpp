@@ -11,7 +11,7 @@ namespace glossmill {
 namespace {
 
 struct AddLanguageOptions {
-  std::string directory;
+  ProjectChoice project;
   std::string code;
   bool save = false;
   WritingOptions writing;
@@ -42,7 +42,7 @@ ExitCode addNewLanguage(const AddLanguageOptions& options, Console& console) {
   ProjectSession session(console, {.leavesDirectoriesToSave = options.save,
                                    .writing = &options.writing,
                                    .command = "add-language " + options.code});
-  const ExitCode opened = session.openPackage(options.directory);
+  const ExitCode opened = session.openPackage(options.project);
   if (opened != ExitCode::Fine) return opened;
   if (!session.project().iso639Dict().nameOf(options.code)) {
     console.error(inQuotes(options.code) + " is no language code of ISO 639");
@@ -59,7 +59,7 @@ void addAddLanguageCommand(CLI::App& program, TypedCommand& typed) {
   CLI::App& command = addCommand(
       program, typed, {"add-language", "Create the directory of a new language", "~/Projects/Harbour sv --save"},
       [options](Console& console) { return addNewLanguage(*options, console); });
-  addDirectory(command, options->directory);
+  addProject(command, options->project);
   addRequired(command, "CODE", options->code, "ISO 639 code of the language, two or three letters");
   addFlag(command, "--save", options->save, "Write its strings file too");
   addWritingOptions(command, options->writing);

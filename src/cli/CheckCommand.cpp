@@ -11,7 +11,7 @@ namespace glossmill {
 namespace {
 
 struct CheckOptions {
-  std::string directory;
+  ProjectChoice project;
   std::vector<std::string> languages;
 };
 
@@ -41,7 +41,7 @@ std::string closingText(std::size_t incomplete, std::size_t all) {
 
 ExitCode check(const CheckOptions& options, Console& console) {
   ProjectSession session(console, {});
-  const ExitCode opened = session.openPackage(options.directory, ExitCode::CheckFailed);
+  const ExitCode opened = session.openPackage(options.project, ExitCode::CheckFailed);
   if (opened != ExitCode::Fine) return opened;
   const std::optional<LanguageArray> languages = chosenLanguages(session, options.languages);
   if (!languages) return ExitCode::WrongUsage;
@@ -58,7 +58,7 @@ void addCheckCommand(CLI::App& program, TypedCommand& typed) {
   CLI::App& command = addCommand(
       program, typed, {"check", "Fail unless languages are complete, for build servers", "~/Projects/Harbour --quiet"},
       [options](Console& console) { return check(*options, console); });
-  addDirectory(command, options->directory);
+  addProject(command, options->project);
   addLanguages(command, options->languages);
 }
 

@@ -12,7 +12,7 @@ namespace {
 constexpr const char* kStandardOutput = "-";
 
 struct ExportOptions {
-  std::string directory;
+  ProjectChoice project;
   std::string language;
   std::string output;
   bool untranslated = false;
@@ -37,7 +37,7 @@ FileUrl exportTarget(ProjectSession& session, const ExportOptions& options) {
 
 ExitCode exportLanguage(const ExportOptions& options, Console& console) {
   ProjectSession session(console, {.dryRun = options.dryRun});
-  const OpenedLanguage opened = openLanguage(session, options.directory, options.language);
+  const OpenedLanguage opened = openLanguage(session, options.project, options.language);
   if (opened.code != ExitCode::Fine) return opened.code;
   const FileUrl target = exportTarget(session, options);
   if (target.empty()) {
@@ -59,7 +59,7 @@ void addExportCommand(CLI::App& program, TypedCommand& typed) {
                                  {"export", "Write one language to a text file for a translator",
                                   "~/Projects/Harbour --language de --untranslated --output Harbour_de.txt"},
                                  [options](Console& console) { return exportLanguage(*options, console); });
-  addDirectory(command, options->directory);
+  addProject(command, options->project);
   addLanguage(command, options->language);
   addFlag(command, "-u,--untranslated", options->untranslated, "Only strings that have no translation");
   addRequired(command, "-o,--output", options->output, "File to write, - for standard output", "FILE");

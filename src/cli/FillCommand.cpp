@@ -9,14 +9,14 @@ namespace glossmill {
 namespace {
 
 struct FillOptions {
-  std::string directory;
+  ProjectChoice project;
   std::string language;
   WritingOptions writing;
 };
 
 ExitCode fill(const FillOptions& options, Console& console) {
   ProjectSession session(console, {.writing = &options.writing, .command = "fill --language " + options.language});
-  const OpenedLanguage opened = openLanguage(session, options.directory, options.language);
+  const OpenedLanguage opened = openLanguage(session, options.project, options.language);
   if (opened.code != ExitCode::Fine) return opened.code;
   const std::size_t before = session.project().missingTranslations(*opened.language);
   session.project().languageFromBaseLanguage(opened.language);
@@ -35,7 +35,7 @@ void addFillCommand(CLI::App& program, TypedCommand& typed) {
                                  {"fill", "Give every missing entry of a language its key as translation, and save",
                                   "~/Projects/Harbour --language en"},
                                  [options](Console& console) { return fill(*options, console); });
-  addDirectory(command, options->directory);
+  addProject(command, options->project);
   addLanguage(command, options->language);
   addWritingOptions(command, options->writing);
 }

@@ -12,7 +12,7 @@ namespace glossmill {
 namespace {
 
 struct ImportOptions {
-  std::string directory;
+  ProjectChoice project;
   std::string language;
   std::string file;
   WritingOptions writing;
@@ -37,7 +37,7 @@ ExitCode unreadable(const ImportOptions& options, const Error& error, Console& c
 
 ExitCode importLanguage(const ImportOptions& options, Console& console) {
   ProjectSession session(console, {.writing = &options.writing, .command = "import --language " + options.language});
-  const OpenedLanguage opened = openLanguage(session, options.directory, options.language);
+  const OpenedLanguage opened = openLanguage(session, options.project, options.language);
   if (opened.code != ExitCode::Fine) return opened.code;
   const FileUrl file = absoluteUrl(options.file);
   if (file.empty()) return unreadable(options, {"The file does not exist."}, console);
@@ -58,7 +58,7 @@ void addImportCommand(CLI::App& program, TypedCommand& typed) {
                                  {"import", "Take over the translations of a filled-in text file, and save",
                                   "~/Projects/Harbour --language de Harbour_de.txt"},
                                  [options](Console& console) { return importLanguage(*options, console); });
-  addDirectory(command, options->directory);
+  addProject(command, options->project);
   addRequired(command, "FILE", options->file, "Text file that was exported and filled in");
   addLanguage(command, options->language);
   addWritingOptions(command, options->writing);

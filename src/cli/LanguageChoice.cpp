@@ -40,8 +40,8 @@ std::optional<LanguageArray> chosenLanguages(const ProjectSession& session, cons
   return chosen;
 }
 
-OpenedLanguage openLanguage(ProjectSession& session, const std::string& directory, const std::string& code) {
-  const ExitCode opened = session.openPackage(directory);
+OpenedLanguage openLanguage(ProjectSession& session, const ProjectChoice& choice, const std::string& code) {
+  const ExitCode opened = session.openPackage(choice);
   if (opened != ExitCode::Fine) return {opened, nullptr};
   const std::optional<LanguageArray> chosen = chosenLanguages(session, {code});
   if (!chosen) return {ExitCode::WrongUsage, nullptr};

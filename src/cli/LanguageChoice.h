@@ -20,6 +20,6 @@ struct OpenedLanguage {
 };
 
 /// Opens the project and finds the language in it. Anything but Fine has been explained on the console.
-OpenedLanguage openLanguage(ProjectSession& session, const std::string& directory, const std::string& code);
+OpenedLanguage openLanguage(ProjectSession& session, const ProjectChoice& choice, const std::string& code);
 
 }  // namespace glossmill

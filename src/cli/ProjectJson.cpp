@@ -2,6 +2,7 @@
 
 #include "cli/JsonValues.h"
 #include "cli/LeftOut.h"
+#include "cli/TableJson.h"
 
 namespace glossmill {
 
@@ -15,13 +16,15 @@ Json stringJson(const ProjectSession& session, const LocalizeString& record) {
   entries.reserve(record.languagesDict().count());
   record.languagesDict().each(
       [&entries](LanguageCode code, std::string_view text) { entries.emplace_back(code.text(), text); });
-  return {{"name", record.name()},
-          {"useCount", record.useCount()},
-          {"comments", record.commentArray()},
-          {"files", filesJson(session, record.filesArray())},
-          {"translations", std::move(translations)},
-          {"status", project.statusTexts().textOf(record.status(&project))},
-          {"statusString", record.statusString(project.statusTexts(), &project)}};
+  Json string = {{"name", record.name()},
+                 {"useCount", record.useCount()},
+                 {"comments", record.commentArray()},
+                 {"files", filesJson(session, record.filesArray())},
+                 {"translations", std::move(translations)},
+                 {"status", project.statusTexts().textOf(record.status(&project))},
+                 {"statusString", record.statusString(project.statusTexts(), &project)}};
+  if (record.tableRow()) addTableRow(session, *record.tableRow(), string);
+  return string;
 }
 
 }  // namespace
@@ -31,6 +34,7 @@ void printProjectJson(const ProjectSession& session) {
   const LogWindowController* log = session.log();
   JsonWriter writer(session.console());
   writer.member("package", packageJson(session));
+  if (project.projectOptions().rules == RuleSet::Xcode) writeTables(session, writer);
   writer.list("files", project.fileList().size(),
               [&](std::size_t i) { return jsonPath(session, project.fileList()[i]); });
   writer.list("languages", project.languagesList()->size(),

@@ -58,17 +58,33 @@ Host ProjectSession::hostParts() {
           m_host.interfaces, m_host.recentMenu, m_host.systemLog,     m_host.bundle,  m_host.application, m_host.saves};
 }
 
-ExitCode ProjectSession::open(const std::string& directory) {
-  const FileUrl url = absoluteUrl(directory);
+ExitCode ProjectSession::open(const ProjectChoice& choice) {
+  const FileUrl url = absoluteUrl(choice.directory);
   const Outcome usable = usableDirectory(m_files, url);
   if (!usable) {
-    m_console.error("cannot open " + inQuotes(directory) + ": " + usable.error().sentence);
+    m_console.error("cannot open " + inQuotes(choice.directory) + ": " + usable.error().sentence);
     return ExitCode::Unusable;
   }
-  const ExitCode kept = keepForWriting(url);
+  const Result<ReadingChoice> reading = readingChoice(m_files, url, choice);
+  if (!reading) {
+    m_console.error(reading.error().sentence);
+    return ExitCode::Unusable;
+  }
+  return openAt(reading.value().directory, reading.value());
+}
+
+ExitCode ProjectSession::openAt(const FileUrl& directory, const ReadingChoice& reading) {
+  if (m_options.writing && reading.rules == RuleSet::Xcode) {
+    m_console.error("projects are not written by xcode's rules yet; nothing was done");
+    return ExitCode::Unusable;
+  }
+  const ExitCode kept = keepForWriting(directory);
   if (kept != ExitCode::Fine) return kept;
   m_delegate->openProjectWindow();
-  project().openProjectAt(url, projectOptions());
+  ProjectOptions options = projectOptions();
+  options.rules = reading.rules;
+  options.xcode = reading.xcode;
+  project().openProjectAt(directory, options);
   return finishJob();
 }
 
@@ -112,8 +128,8 @@ void ProjectSession::mentionUnfinishedSave(const FileUrl& directory) {
   }
 }
 
-ExitCode ProjectSession::openPackage(const std::string& directory, ExitCode without) {
-  const ExitCode opened = open(directory);
+ExitCode ProjectSession::openPackage(const ProjectChoice& choice, ExitCode without) {
+  const ExitCode opened = open(choice);
   if (opened != ExitCode::Fine || project().projectPackage()) return opened;
   m_console.error("there is no Xcode project in " + inQuotes(project().projectDirectory().path()));
   return without;

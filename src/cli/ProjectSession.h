@@ -9,6 +9,8 @@
 #include "cli/Console.h"
 #include "cli/ExitCode.h"
 #include "cli/JsonWriter.h"
+#include "cli/ProjectChoice.h"
+#include "cli/ReadingChoice.h"
 #include "cli/ReportingFiles.h"
 #include "cli/WritingOptions.h"
 #include "host/HeadlessHost.h"
@@ -35,9 +37,9 @@ class ProjectSession {
   ProjectSession(Console& console, const Options& options);
 
   /// Opens the project in the directory and waits for the scan. Anything but Fine has been explained on the console.
-  ExitCode open(const std::string& directory);
+  ExitCode open(const ProjectChoice& choice);
   /// The same for a directory that has to hold a package; `without` when there is none.
-  ExitCode openPackage(const std::string& directory, ExitCode without = ExitCode::Unusable);
+  ExitCode openPackage(const ProjectChoice& choice, ExitCode without = ExitCode::Unusable);
   /// Waits for the long job that was just started; Interrupted when Ctrl+C was pressed meanwhile.
   ExitCode finishJob();
   /// Saves every language and prints what became of each file; Unusable when one could not be written.
@@ -59,6 +61,7 @@ class ProjectSession {
 
  private:
   Host hostParts();
+  ExitCode openAt(const FileUrl& directory, const ReadingChoice& reading);
   ProjectOptions projectOptions() const;
   ExitCode keepForWriting(const FileUrl& directory);
   void mentionUnfinishedSave(const FileUrl& directory);

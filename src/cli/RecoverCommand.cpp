@@ -16,7 +16,7 @@ namespace {
 using Fit = RecoverableEdit::Fit;
 
 struct RecoverOptions {
-  std::string directory;
+  ProjectChoice project;
   bool apply = false;
   bool discard = false;
   WritingOptions writing;
@@ -81,7 +81,7 @@ void printEdits(const std::vector<RecoverableEdit>& edits, bool json, Console& c
 
 ExitCode list(const RecoverOptions& options, Console& console) {
   ProjectSession session(console, {});
-  const ExitCode opened = session.open(options.directory);
+  const ExitCode opened = session.open(options.project);
   if (opened != ExitCode::Fine) return opened;
   session.project().takeKeptEdits();
   printEdits(session.project().recoverableEdits(), options.writing.json, console);
@@ -91,7 +91,7 @@ ExitCode list(const RecoverOptions& options, Console& console) {
 /// What does not fit is named and stays where it is.
 ExitCode apply(const RecoverOptions& options, Console& console) {
   ProjectSession session(console, {.writing = &options.writing, .command = "recover --apply"});
-  const ExitCode opened = session.openPackage(options.directory);
+  const ExitCode opened = session.openPackage(options.project);
   if (opened != ExitCode::Fine) return opened;
   session.project().takeKeptEdits();
   std::vector<RecoverableEdit> edits = session.project().recoverableEdits();
@@ -112,9 +112,9 @@ ExitCode apply(const RecoverOptions& options, Console& console) {
 ExitCode discard(const RecoverOptions& options, Console& console) {
   PosixFiles files;
   PosixSaveDisk disk;
-  const FileUrl project = absoluteUrl(options.directory);
+  const FileUrl project = absoluteUrl(options.project.directory);
   if (files.kindOf(project) != EntryKind::Directory) {
-    console.error("there is no directory " + inQuotes(options.directory));
+    console.error("there is no directory " + inQuotes(options.project.directory));
     return ExitCode::Unusable;
   }
   KeptJournals journals(files, disk);
@@ -149,7 +149,7 @@ void addRecoverCommand(CLI::App& program, TypedCommand& typed) {
                                  {"recover", "List edits of the window that were never saved; apply or discard them",
                                   "~/Projects/Harbour --apply"},
                                  [options](Console& console) { return recover(*options, console); });
-  addDirectory(command, options->directory);
+  addProject(command, options->project);
   addFlag(command, "--apply", options->apply, "Apply those that fit what is there now, and save");
   addFlag(command, "--discard", options->discard, "Forget them all");
   command.get_option("--apply")->excludes("--discard")->option_text(" ");

@@ -9,13 +9,13 @@ namespace glossmill {
 namespace {
 
 struct SaveOptions {
-  std::string directory;
+  ProjectChoice project;
   WritingOptions writing;
 };
 
 ExitCode save(const SaveOptions& options, Console& console) {
   ProjectSession session(console, {.writing = &options.writing, .command = "save"});
-  const ExitCode opened = session.openPackage(options.directory);
+  const ExitCode opened = session.openPackage(options.project);
   if (opened != ExitCode::Fine) return opened;
   return session.saveProject();
 }
@@ -27,7 +27,7 @@ void addSaveCommand(CLI::App& program, TypedCommand& typed) {
   CLI::App& command =
       addCommand(program, typed, {"save", "Rewrite the strings file of every language", "~/Projects/Harbour --dry-run"},
                  [options](Console& console) { return save(*options, console); });
-  addDirectory(command, options->directory);
+  addProject(command, options->project);
   addWritingOptions(command, options->writing);
 }
 

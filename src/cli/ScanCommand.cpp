@@ -14,9 +14,17 @@ namespace glossmill {
 namespace {
 
 struct ScanOptions {
-  std::string directory;
+  ProjectChoice project;
   bool json = false;
 };
+
+void addTableRows(const ProjectWindowController& project, TextTable& table) {
+  if (project.packages().size() > 1) {
+    table.addRow({{"Other packages", Paint::Heading}, {std::to_string(project.packages().size() - 1)}});
+  }
+  table.addRow({{"Tables", Paint::Heading}, {std::to_string(project.tables().size())}});
+  table.addRow({{"Problems", Paint::Heading}, {std::to_string(project.problems().size())}});
+}
 
 std::string projectTable(const ProjectSession& session) {
   const ProjectWindowController& project = session.project();
@@ -24,6 +32,7 @@ std::string projectTable(const ProjectSession& session) {
   TextTable table({TextTable::Align::Left, TextTable::Align::Left});
   table.addRow(
       {{"Package", Paint::Heading}, {package ? std::string(shownPath(project.projectDirectory(), *package)) : "none"}});
+  if (project.projectOptions().rules == RuleSet::Xcode) addTableRows(project, table);
   table.addRow({{"Source files", Paint::Heading}, {std::to_string(project.fileList().size())}});
   table.addRow({{"Keys", Paint::Heading}, {std::to_string(project.stringList().size())}});
   return table.text(session.console());
@@ -40,7 +49,7 @@ void printSummary(const ProjectSession& session) {
 
 ExitCode scan(const ScanOptions& options, Console& console) {
   ProjectSession session(console, {.keepsLogs = options.json});
-  const ExitCode opened = session.open(options.directory);
+  const ExitCode opened = session.open(options.project);
   if (opened != ExitCode::Fine) return opened;
   if (options.json) {
     printProjectJson(session);
@@ -57,7 +66,7 @@ void addScanCommand(CLI::App& program, TypedCommand& typed) {
   CLI::App& command = addCommand(
       program, typed, {"scan", "Show what a project holds: its languages, keys and gaps", "~/Projects/Harbour"},
       [options](Console& console) { return scan(*options, console); });
-  addDirectory(command, options->directory);
+  addProject(command, options->project);
   addFlag(command, "--json", options->json, "Print everything that was found as JSON");
 }
 

@@ -42,6 +42,16 @@ void addDirectory(CLI::App& command, std::string& directory) {
   addRequired(command, "DIR", directory, "Directory of the Xcode project");
 }
 
+void addProject(CLI::App& command, ProjectChoice& choice) {
+  addDirectory(command, choice.directory);
+  command.add_option("--rules", choice.rules, "By which rules it is read: classic or xcode")
+      ->check(CLI::IsMember({"classic", "xcode"}))
+      ->option_text("RULES");
+  command.add_option("--package", choice.packages, "With xcode's rules: read this package; may be repeated")
+      ->allow_extra_args(false)
+      ->option_text("PATH");
+}
+
 void addLanguage(CLI::App& command, std::string& code) {
   addRequired(command, "-l,--language", code, "Code of the language, as in its .lproj directory", "CODE");
 }

@@ -6,6 +6,7 @@
 
 #include "cli/Console.h"
 #include "cli/ExitCode.h"
+#include "cli/ProjectChoice.h"
 
 namespace CLI {
 class App;
@@ -38,6 +39,9 @@ void addLoudness(CLI::App& app, TypedCommand& typed);
 
 /// Adds the project directory, which every command needs.
 void addDirectory(CLI::App& command, std::string& directory);
+
+/// Adds it with the options that say how the project is read, for a command that reads it.
+void addProject(CLI::App& command, ProjectChoice& choice);
 
 /// Adds --language, once and required, or any number of times.
 void addLanguage(CLI::App& command, std::string& code);
