@@ -74,10 +74,6 @@ ExitCode ProjectSession::open(const ProjectChoice& choice) {
 }
 
 ExitCode ProjectSession::openAt(const FileUrl& directory, const ReadingChoice& reading) {
-  if (m_options.writing && reading.rules == RuleSet::Xcode) {
-    m_console.error("projects are not written by xcode's rules yet; nothing was done");
-    return ExitCode::Unusable;
-  }
   const ExitCode kept = keepForWriting(directory);
   if (kept != ExitCode::Fine) return kept;
   m_delegate->openProjectWindow();
@@ -85,7 +81,20 @@ ExitCode ProjectSession::openAt(const FileUrl& directory, const ReadingChoice& r
   options.rules = reading.rules;
   options.xcode = reading.xcode;
   project().openProjectAt(directory, options);
-  return finishJob();
+  const ExitCode finished = finishJob();
+  if (finished == ExitCode::Fine && reading.rules == RuleSet::Classic) offerOtherRules();
+  return finished;
+}
+
+/// Where the classic rules left out what others may take.
+void ProjectSession::offerOtherRules() {
+  const ScanTotals totals = project().scanReport().totals();
+  if (totals.rejectedCalls == 0 && totals.unmatchedEntries == 0) return;
+  const bool isOneEntry = totals.unmatchedEntries == 1;
+  m_console.message(counted(totals.rejectedCalls, "call") + (totals.rejectedCalls == 1 ? " was" : " were") +
+                    " rejected, and " + std::to_string(totals.unmatchedEntries) +
+                    (isOneEntry ? " entry matches" : " entries match") +
+                    " no call; xcode's rules may read them: --rules xcode");
 }
 
 ProjectOptions ProjectSession::projectOptions() const {

@@ -61,6 +61,7 @@ class ProjectSession {
 
  private:
   Host hostParts();
+  void offerOtherRules();
   ExitCode openAt(const FileUrl& directory, const ReadingChoice& reading);
   ProjectOptions projectOptions() const;
   ExitCode keepForWriting(const FileUrl& directory);

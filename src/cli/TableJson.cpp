@@ -42,7 +42,7 @@ void writeTables(const ProjectSession& session, JsonWriter& writer) {
   const ProjectWindowController& project = session.project();
   writer.member("rules", "xcode");
   writer.list("packages", project.packages().size(),
-              [&](std::size_t i) { return pathFromProject(session, project.packages()[i]); });
+              [&](std::size_t i) { return Json(pathFromProject(session, project.packages()[i])); });
   writer.list("tables", project.tables().size(),
               [&](std::size_t i) { return tableJson(session, *project.tables()[i]); });
   writer.list("problems", project.problems().size(),

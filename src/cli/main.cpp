@@ -13,6 +13,7 @@
 #include "cli/FillCommand.h"
 #include "cli/HistoryCommand.h"
 #include "cli/ImportCommand.h"
+#include "cli/InitCommand.h"
 #include "cli/RecoverCommand.h"
 #include "cli/RestoreCommand.h"
 #include "cli/SaveCommand.h"
@@ -42,6 +43,7 @@ void addEverything(CLI::App& program, TypedCommand& typed) {
   program.get_formatter()->label("SUBCOMMAND", "COMMAND");
   program.footer("Examples:");
   addLoudness(program, typed);
+  addInitCommand(program, typed);
   addScanCommand(program, typed);
   addStatusCommand(program, typed);
   addCheckCommand(program, typed);

@@ -90,9 +90,11 @@ void ScanMessages::writeEvent(const EntryWithoutMatch& event) {
 /// As compilers say it.
 void ScanMessages::writeEvent(const ProblemFound& event) {
   const Problem& problem = event.problem;
-  m_logText(
-      {"%@:%ld:%ld: %@",
-       {problem.file.lastPathComponent(), std::int64_t{problem.line}, std::int64_t{problem.column}, problem.text}});
+  std::string place = problem.file.path();
+  for (const std::uint32_t number : {problem.line, problem.column}) {
+    if (number != 0) place += ":" + std::to_string(number);
+  }
+  m_logText(Message("%@: %@", {place, problem.text}).clippedTo(kShownUnits));
 }
 
 }  // namespace glossmill

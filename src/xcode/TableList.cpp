@@ -27,6 +27,15 @@ StringsPath takenApart(std::string_view path) {
   return {std::string(directoryOf(folder)), std::string(language), std::string(name)};
 }
 
+/// The names of the directories in the order of the languages that they are of.
+std::vector<std::string> namesByLanguage(const LanguageDirectories& directories) {
+  std::vector<std::string> names = directories.names();
+  std::sort(names.begin(), names.end(), [&directories](const std::string& a, const std::string& b) {
+    return directories.languageOf(a) < directories.languageOf(b);
+  });
+  return names;
+}
+
 class TableCollector {
  public:
   explicit TableCollector(const TableInput& input) : m_input(input) {}
@@ -63,7 +72,7 @@ class TableCollector {
   }
 
   void addFiles(TableList::Table& added, const LanguageDirectories& beside, const Members& members) {
-    for (const std::string& language : beside.names()) {
+    for (const std::string& language : namesByLanguage(beside)) {
       const auto member = members.find(language);
       const bool isMember = member != members.end();
       const std::optional<MemberFile> file =

@@ -173,21 +173,23 @@ class StringsPhase {
       auto language = std::make_shared<Language>();
       language->setIso639(code);
       language->setDescription(m_input.isoTable.nameOf(code));
-      language->setLocalizedStringUrl(placeOf(language->code()));
+      place(*language);
       m_result.languagesList->push_back(std::move(language));
     }
   }
 
-  /// The first directory that holds a file of the language.
-  FileUrl placeOf(LanguageCode language) const {
+  /// At its first file, or at the directory where that would lie.
+  void place(Language& language) const {
     for (const std::shared_ptr<StringsTable>& table : m_result.tables) {
-      const StringsTable::File* file = table->find(language);
-      if (file) return file->file.parent();
+      const StringsTable::File* file = table->find(language.code());
+      if (!file) continue;
+      language.setLocalizedStringUrl(file->file);
+      return language.setUrlDepth(Language::kStringsFile);
     }
     for (const std::shared_ptr<StringsTable>& table : m_result.tables) {
-      if (!table->directory.empty()) return table->directory.appending(language.text() + ".lproj");
+      if (table->directory.empty()) continue;
+      return language.setLocalizedStringUrl(table->directory.appending(language.iso639() + ".lproj"));
     }
-    return {};
   }
 
   void finishProblems() {

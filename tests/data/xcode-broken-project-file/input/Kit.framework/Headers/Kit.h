@@ -1,0 +1,1 @@
+#define K NSLocalizedString(@"no", nil)

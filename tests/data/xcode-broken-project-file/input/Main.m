@@ -1,0 +1,1 @@
+NSLocalizedString(@"Every source counts", nil);

@@ -1,0 +1,1 @@
+NSLocalizedString(@"Outer", nil);

@@ -1,0 +1,1 @@
+NSLocalizedString(@"Nobody references this", nil);

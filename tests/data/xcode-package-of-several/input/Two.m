@@ -1,0 +1,1 @@
+NSLocalizedString(@"Two", nil);

@@ -1,0 +1,2 @@
+MyString(@"Mine", @"of my own");
+MyTable(@"Theirs", @"Other", nil);

@@ -1,0 +1,1 @@
+MyString(@"Left out", nil);

@@ -1,0 +1,1 @@
+NSLocalizedString(@"Open", nil);

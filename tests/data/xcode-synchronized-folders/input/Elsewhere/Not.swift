@@ -1,0 +1,1 @@
+let a = NSLocalizedString("Not in the project", comment: "")

@@ -1,0 +1,1 @@
+let a = NSLocalizedString("Left out", comment: "no target compiles it")

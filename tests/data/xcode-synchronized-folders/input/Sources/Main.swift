@@ -1,0 +1,1 @@
+let a = NSLocalizedString("Main", comment: "taken")

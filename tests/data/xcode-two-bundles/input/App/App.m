@@ -1,0 +1,1 @@
+NSLocalizedString(@"Start", @"in the application");

@@ -1,0 +1,3 @@
+NSLocalizedString(@"Called", @"Comment");
+id keys = @[@"In a source"];
+NSLocalizedString(@"No file has it", nil);
