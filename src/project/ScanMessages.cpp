@@ -94,7 +94,7 @@ void ScanMessages::writeEvent(const ProblemFound& event) {
   for (const std::uint32_t number : {problem.line, problem.column}) {
     if (number != 0) place += ":" + std::to_string(number);
   }
-  m_logText(Message("%@: %@", {place, problem.text}).clippedTo(kShownUnits));
+  m_logText({"%@: %@", {place, problem.text}});
 }
 
 }  // namespace glossmill

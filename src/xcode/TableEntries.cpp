@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "platform/ReadBytes.h"
+#include "text/Utf16.h"
 #include "xcode/SourceText.h"
 #include "xcode/StringsDocument.h"
 
@@ -12,6 +13,7 @@ namespace glossmill {
 namespace {
 
 constexpr std::string_view kBinaryList = "bplist";
+constexpr std::size_t kMostKeyUnits = 80;  // of a key, in a sentence
 
 std::string_view withoutSpace(std::string_view text) {
   const auto isSpace = [](char byte) { return isBlank(byte) || isLineEnd(byte); };
@@ -111,9 +113,9 @@ class TableReader {
 
   void reportRepetitions(const StringsTable::File& file, const StringsDocument& document) {
     for (const StringsDocument::RepeatedKey& repeated : document.repeatedKeys()) {
-      reportFile(
-          file, {repeated.lines.back(), 0}, "repeated-key",
-          "The key \"" + repeated.key + "\" stands on the lines " + lineList(repeated.lines) + "; the last one counts");
+      reportFile(file, {repeated.lines.back(), 0}, "repeated-key",
+                 "The key \"" + clipUtf16(repeated.key, kMostKeyUnits) + "\" stands on the lines " +
+                     lineList(repeated.lines) + "; the last one counts");
     }
   }
 
