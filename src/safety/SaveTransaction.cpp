@@ -25,6 +25,8 @@ struct SaveTransaction::Step {
 
 namespace {
 
+constexpr std::string_view kWrittenMeanwhile = "It was written by somebody else meanwhile.";
+
 FileUrl resolvedOr(SaveDisk& disk, const FileUrl& url) {
   const Result<FileUrl> resolved = disk.resolve(url);
   return resolved ? resolved.value() : url;
@@ -49,6 +51,7 @@ SaveResult SaveTransaction::save(const std::vector<FileText>& texts) {
   std::vector<Step> steps(texts.size());
   for (std::size_t at = 0; at < texts.size() && !m_result.refusal; ++at) prepare(texts[at], steps[at]);
   if (!m_result.refusal) keepVersion(steps);
+  if (!m_result.refusal) lookOnceMore(steps);
   if (m_result.refusal) {
     removeDirectories(steps);
     m_record.forget();
@@ -247,8 +250,29 @@ void SaveTransaction::keepVersion(const std::vector<Step>& steps) {
   if (!m_order.allowance.noCopy) refuse(SaveRefusal::Kind::NoCopy, m_order.project, kept.error().sentence);
 }
 
+/// Flushing texts and copies takes its time, in which an editor may have written one of the files.
+void SaveTransaction::lookOnceMore(const std::vector<Step>& steps) {
+  for (const Step& step : steps) {
+    if (isWrittenMeanwhile(step)) refuse(SaveRefusal::Kind::Changed, step.saved.file, std::string(kWrittenMeanwhile));
+  }
+  if (!m_result.refusal || !m_result.id) return;
+  static_cast<void>(m_versions.drop(*m_result.id));
+  m_result.id.reset();
+}
+
+/// Since its new text was prepared. A file that vanished is written anew.
+bool SaveTransaction::isWrittenMeanwhile(const Step& step) {
+  if (!step.write || m_order.allowance.changed) return false;
+  const Result<std::optional<FileStamp>> now = m_disk.stampOf(step.write->target());
+  return now && now.value() && now.value() != step.write->former();
+}
+
+/// It is too late to refuse the whole when the first files are in place, but not for the one that is next.
 void SaveTransaction::putInPlace(Step& step) {
   if (!step.isToBeDone()) return;
+  if (isWrittenMeanwhile(step)) {
+    return step.fail(FileOutcome::Kind::Failed, Error{std::string(kWrittenMeanwhile)});
+  }
   const Outcome done = step.isRemoval ? m_disk.remove(step.saved.file) : step.write->putInPlace();
   if (!done) return step.fail(FileOutcome::Kind::Failed, done.error());
   using enum FileOutcome::Kind;

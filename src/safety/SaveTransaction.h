@@ -81,6 +81,8 @@ class SaveTransaction {
   void removeDirectories(std::vector<Step>& steps);
   Outcome copyFormer(const std::vector<Step>& steps);
   void keepVersion(const std::vector<Step>& steps);
+  void lookOnceMore(const std::vector<Step>& steps);
+  bool isWrittenMeanwhile(const Step& step);
   void putInPlace(Step& step);
   void refuse(SaveRefusal::Kind kind, const FileUrl& file, const std::string& sentence);
   WriteLimits limits(const FileText& text) const;

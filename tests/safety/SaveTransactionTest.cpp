@@ -158,6 +158,34 @@ TEST_F(SaveTransactionTest, AFileThatChangedSinceItWasReadRefusesTheSaveAndNames
   EXPECT_EQ(contents(), newContents());
 }
 
+TEST_F(SaveTransactionTest, AFileThatIsWrittenWhileCopiesAreMadeRefusesTheSave) {
+  disk.onOperation = [this](const std::string& operation) {
+    if (operation.starts_with("keep ")) files.addFile("/x/App/fr.lproj/Localizable.strings", "edited meanwhile");
+  };
+  const SaveResult result = save({newTexts().at(0), newTexts().at(1)});
+  disk.onOperation = nullptr;
+  ASSERT_TRUE(result.refusal);
+  EXPECT_EQ(result.refusal->kind, SaveRefusal::Kind::Changed);
+  EXPECT_EQ(result.id, std::nullopt);
+  EXPECT_EQ(files.bytesOf("/x/App/de.lproj/Localizable.strings"), "old de");
+  EXPECT_EQ(files.bytesOf("/x/App/fr.lproj/Localizable.strings"), "edited meanwhile");
+  EXPECT_FALSE(hasTemporaries());
+  EXPECT_TRUE(SavedVersions(files, disk, kProject).list().empty());
+}
+
+TEST_F(SaveTransactionTest, AFileThatIsWrittenWhileOthersAreReplacedStaysAsItIs) {
+  disk.onOperation = [this](const std::string& operation) {
+    if (operation != "rename /x/App/de.lproj/Localizable.strings") return;
+    files.addFile("/x/App/fr.lproj/Localizable.strings", "edited meanwhile");
+  };
+  const SaveResult result = save(newTexts());
+  EXPECT_FALSE(result.refusal);
+  EXPECT_EQ(result.files.at(1).kind, Kind::Failed);
+  EXPECT_EQ(files.bytesOf("/x/App/fr.lproj/Localizable.strings"), "edited meanwhile");
+  EXPECT_EQ(files.bytesOf("/x/App/de.lproj/Localizable.strings"), "new de");
+  EXPECT_FALSE(hasTemporaries());
+}
+
 TEST_F(SaveTransactionTest, AFileThatVanishedSinceItWasReadIsWrittenAnew) {
   std::vector<FileText> texts = newTexts();
   for (FileText& text : texts) text.expected = disk.stampOf(text.file).value();
