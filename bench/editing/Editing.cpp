@@ -1,5 +1,5 @@
 // glossmill-bench-editing DIR SCRATCH: opens the project in DIR without a window and measures what a person does with
-// it: filter, edit, export, import, fill, save. Writes into the directory SCRATCH only.
+// it: filter, edit, export, import, fill, save. Writes into the directory SCRATCH and where XDG_STATE_HOME points to.
 
 #include <cstdio>
 #include <string>
@@ -8,6 +8,7 @@
 #include "editing/HeadlessProject.h"
 #include "editing/JobTrials.h"
 #include "editing/SavingTrials.h"
+#include "editing/UnsavedTrials.h"
 #include "host/AllocatorSettings.h"
 #include "timing/Findings.h"
 
@@ -17,6 +18,9 @@ constexpr int kFilterRounds = 15;
 constexpr int kStatusRounds = 1000;
 constexpr int kJobRounds = 5;
 constexpr int kSavingRounds = 5;
+constexpr int kEditRounds = 5000;
+constexpr std::size_t kBatch = 100'000;
+constexpr int kBatchRounds = 5;
 
 }  // namespace
 
@@ -36,5 +40,8 @@ int main(int argumentCount, char** arguments) {
   bench::EditTrials edits(project);
   edits.filter(kFilterRounds);
   edits.statuses(kStatusRounds);
+  bench::UnsavedTrials unsaved(project, arguments[1]);
+  unsaved.singleEdits(kEditRounds);
+  unsaved.batches(kBatch, kBatchRounds);
   return 0;
 }

@@ -75,22 +75,28 @@ std::size_t JobTrials::importAll() {
   const Result<std::string> text = readText(m_files, m_exported);
   if (!text) giveUp("cannot read " + m_exported.path());
   const ImportPlan plan(importTable(text.value()), m_added->code());
+  m_project.edits().beginEdits();
   for (const auto& record : m_project.stringList()) {
     if (const auto edit = plan.editFor(record)) m_project.applyEdit(EditKind::Import, *edit);
   }
+  m_project.edits().endEdits();
   return entries();
 }
 
 void JobTrials::fillAll() {
+  m_project.edits().beginEdits();
   for (const auto& record : m_project.stringList()) {
     if (const auto edit = fillFromKey(record, m_added->code())) m_project.applyEdit(EditKind::Fill, *edit);
   }
+  m_project.edits().endEdits();
 }
 
 void JobTrials::removeEntries() {
+  m_project.edits().beginEdits();
   for (const auto& record : m_project.stringList()) {
     m_project.applyEdit(EditKind::Import, editOf(record, m_added->code(), std::nullopt));
   }
+  m_project.edits().endEdits();
 }
 
 std::size_t JobTrials::entries() const {
