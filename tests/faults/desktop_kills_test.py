@@ -94,10 +94,18 @@ class Trial:
     def start(self):
         program = subprocess.Popen([str(self.options.program), str(self.project)], env=self.environment,
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--pid", str(program.pid), "--name", "App"],
-                       env=self.environment, check=True, stdout=subprocess.DEVNULL, timeout=display.TIME_LIMIT)
+        deadline = time.monotonic() + display.TIME_LIMIT
+        while not self.shows_project(program):
+            if time.monotonic() > deadline:
+                raise TimeoutError("the window does not come")
         display.settle(self.server, program)
         return program
+
+    def shows_project(self, program):
+        """The search fails, too, when another window goes away meanwhile."""
+        search = ["xdotool", "search", "--onlyvisible", "--pid", str(program.pid), "--name", "^App"]
+        return subprocess.run(search, env=self.environment, check=False, stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL).returncode == 0
 
     def session(self, number, how):
         """Gives what went wrong, or None."""
