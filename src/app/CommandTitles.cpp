@@ -25,6 +25,8 @@ std::string undoTitle(const HistoryStep& step, const std::string& language, cons
       return formatText(bundle.localizedString("&Undo Import of %@"), {language});
     case EditKind::Fill:
       return formatText(bundle.localizedString("&Undo Filling of %@"), {language});
+    case EditKind::Removal:
+      return bundle.localizedString("&Undo Removal of Unused Entries");
     case EditKind::Recovery:
       return bundle.localizedString("&Undo Recovery");
     case EditKind::Undo:
@@ -42,6 +44,8 @@ std::string redoTitle(const HistoryStep& step, const std::string& language, cons
       return formatText(bundle.localizedString("&Redo Import of %@"), {language});
     case EditKind::Fill:
       return formatText(bundle.localizedString("&Redo Filling of %@"), {language});
+    case EditKind::Removal:
+      return bundle.localizedString("&Redo Removal of Unused Entries");
     case EditKind::Recovery:
       return bundle.localizedString("&Redo Recovery");
     case EditKind::Undo:

@@ -5,6 +5,8 @@
 #include "cli/DisplayText.h"
 #include "cli/Paths.h"
 #include "cli/ProjectSession.h"
+#include "cli/TableChoice.h"
+#include "project/NewLanguageDirectories.h"
 
 namespace glossmill {
 
@@ -13,6 +15,7 @@ namespace {
 struct AddLanguageOptions {
   ProjectChoice project;
   std::string code;
+  std::vector<std::string> tables;
   bool save = false;
   WritingOptions writing;
 };
@@ -30,8 +33,25 @@ bool isNewLanguage(const ProjectSession& session, const std::string& code) {
   return true;
 }
 
+bool hasTables(const ProjectSession& session) {
+  return session.project().projectOptions().rules == RuleSet::Xcode;
+}
+
+/// Where there are tables, with a region, too.
+bool isCode(const ProjectSession& session, const std::string& code) {
+  const IsoTable& table = session.project().iso639Dict();
+  return table.nameOf(hasTables(session) ? languageWithoutRegion(code) : std::string_view(code)).has_value();
+}
+
+std::shared_ptr<Language> add(ProjectSession& session, const AddLanguageOptions& options) {
+  if (!hasTables(session)) return session.project().addLanguage(options.code);
+  const std::shared_ptr<Language> added = session.project().addLanguageToTables(options.code, options.tables);
+  if (!added) session.console().error("no directory was made");
+  return added;
+}
+
 ExitCode addLanguageToProject(ProjectSession& session, const AddLanguageOptions& options) {
-  const std::shared_ptr<Language> added = session.project().addLanguage(options.code);
+  const std::shared_ptr<Language> added = add(session, options);
   if (!added) return ExitCode::Unusable;
   const bool saved = !options.save || session.project().saveLanguage(added);
   session.reportFiles();
@@ -44,11 +64,14 @@ ExitCode addNewLanguage(const AddLanguageOptions& options, Console& console) {
                                    .command = "add-language " + options.code});
   const ExitCode opened = session.openPackage(options.project);
   if (opened != ExitCode::Fine) return opened;
-  if (!session.project().iso639Dict().nameOf(options.code)) {
+  if (!isCode(session, options.code)) {
     console.error(inQuotes(options.code) + " is no language code of ISO 639");
     return ExitCode::WrongUsage;
   }
-  if (!isNewLanguage(session, options.code)) return ExitCode::WrongUsage;
+  // A language that some tables have may go to others.
+  const bool mayBeKnown = !options.tables.empty();
+  if (!keepTables(session, options.tables)) return ExitCode::WrongUsage;
+  if (!mayBeKnown && !isNewLanguage(session, options.code)) return ExitCode::WrongUsage;
   return addLanguageToProject(session, options);
 }
 
@@ -60,6 +83,7 @@ void addAddLanguageCommand(CLI::App& program, TypedCommand& typed) {
       program, typed, {"add-language", "Create the directory of a new language", "~/Projects/Harbour sv --save"},
       [options](Console& console) { return addNewLanguage(*options, console); });
   addProject(command, options->project);
+  addTables(command, options->tables);
   addRequired(command, "CODE", options->code, "ISO 639 code of the language, two or three letters");
   addFlag(command, "--save", options->save, "Write its strings file too");
   addWritingOptions(command, options->writing);

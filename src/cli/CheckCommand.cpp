@@ -4,6 +4,7 @@
 
 #include "cli/DisplayText.h"
 #include "cli/LanguageChoice.h"
+#include "cli/TableChoice.h"
 #include "cli/TextTable.h"
 
 namespace glossmill {
@@ -12,6 +13,7 @@ namespace {
 
 struct CheckOptions {
   ProjectChoice project;
+  std::vector<std::string> tables;
   std::vector<std::string> languages;
 };
 
@@ -44,7 +46,7 @@ ExitCode check(const CheckOptions& options, Console& console) {
   const ExitCode opened = session.openPackage(options.project, ExitCode::CheckFailed);
   if (opened != ExitCode::Fine) return opened;
   const std::optional<LanguageArray> languages = chosenLanguages(session, options.languages);
-  if (!languages) return ExitCode::WrongUsage;
+  if (!languages || !keepTables(session, options.tables)) return ExitCode::WrongUsage;
   const LanguageArray incomplete = incompleteOf(session, *languages);
   console.data(incompleteText(session, incomplete));
   console.message(closingText(incomplete.size(), languages->size()));
@@ -59,6 +61,7 @@ void addCheckCommand(CLI::App& program, TypedCommand& typed) {
       program, typed, {"check", "Fail unless languages are complete, for build servers", "~/Projects/Harbour --quiet"},
       [options](Console& console) { return check(*options, console); });
   addProject(command, options->project);
+  addTables(command, options->tables);
   addLanguages(command, options->languages);
 }
 

@@ -4,6 +4,7 @@
 
 #include "cli/LanguageChoice.h"
 #include "cli/Paths.h"
+#include "cli/TableChoice.h"
 
 namespace glossmill {
 
@@ -13,6 +14,7 @@ constexpr const char* kStandardOutput = "-";
 
 struct ExportOptions {
   ProjectChoice project;
+  std::vector<std::string> tables;
   std::string language;
   std::string output;
   bool untranslated = false;
@@ -37,7 +39,7 @@ FileUrl exportTarget(ProjectSession& session, const ExportOptions& options) {
 
 ExitCode exportLanguage(const ExportOptions& options, Console& console) {
   ProjectSession session(console, {.dryRun = options.dryRun});
-  const OpenedLanguage opened = openLanguage(session, options.project, options.language);
+  const OpenedLanguage opened = openLanguage(session, options.project, options.language, options.tables);
   if (opened.code != ExitCode::Fine) return opened.code;
   const FileUrl target = exportTarget(session, options);
   if (target.empty()) {
@@ -60,6 +62,7 @@ void addExportCommand(CLI::App& program, TypedCommand& typed) {
                                   "~/Projects/Harbour --language de --untranslated --output Harbour_de.txt"},
                                  [options](Console& console) { return exportLanguage(*options, console); });
   addProject(command, options->project);
+  addTables(command, options->tables);
   addLanguage(command, options->language);
   addFlag(command, "-u,--untranslated", options->untranslated, "Only strings that have no translation");
   addRequired(command, "-o,--output", options->output, "File to write, - for standard output", "FILE");

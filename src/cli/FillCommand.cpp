@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "cli/LanguageChoice.h"
+#include "cli/TableChoice.h"
 
 namespace glossmill {
 
@@ -10,13 +11,14 @@ namespace {
 
 struct FillOptions {
   ProjectChoice project;
+  std::vector<std::string> tables;
   std::string language;
   WritingOptions writing;
 };
 
 ExitCode fill(const FillOptions& options, Console& console) {
   ProjectSession session(console, {.writing = &options.writing, .command = "fill --language " + options.language});
-  const OpenedLanguage opened = openLanguage(session, options.project, options.language);
+  const OpenedLanguage opened = openLanguage(session, options.project, options.language, options.tables);
   if (opened.code != ExitCode::Fine) return opened.code;
   const std::size_t before = session.project().missingTranslations(*opened.language);
   session.project().languageFromBaseLanguage(opened.language);
@@ -36,6 +38,7 @@ void addFillCommand(CLI::App& program, TypedCommand& typed) {
                                   "~/Projects/Harbour --language en"},
                                  [options](Console& console) { return fill(*options, console); });
   addProject(command, options->project);
+  addTables(command, options->tables);
   addLanguage(command, options->language);
   addWritingOptions(command, options->writing);
 }

@@ -5,6 +5,7 @@
 #include "cli/DisplayText.h"
 #include "cli/LanguageChoice.h"
 #include "cli/Paths.h"
+#include "cli/TableChoice.h"
 #include "cli/TextTable.h"
 
 namespace glossmill {
@@ -13,6 +14,7 @@ namespace {
 
 struct ImportOptions {
   ProjectChoice project;
+  std::vector<std::string> tables;
   std::string language;
   std::string file;
   WritingOptions writing;
@@ -37,7 +39,7 @@ ExitCode unreadable(const ImportOptions& options, const Error& error, Console& c
 
 ExitCode importLanguage(const ImportOptions& options, Console& console) {
   ProjectSession session(console, {.writing = &options.writing, .command = "import --language " + options.language});
-  const OpenedLanguage opened = openLanguage(session, options.project, options.language);
+  const OpenedLanguage opened = openLanguage(session, options.project, options.language, options.tables);
   if (opened.code != ExitCode::Fine) return opened.code;
   const FileUrl file = absoluteUrl(options.file);
   if (file.empty()) return unreadable(options, {"The file does not exist."}, console);
@@ -59,6 +61,7 @@ void addImportCommand(CLI::App& program, TypedCommand& typed) {
                                   "~/Projects/Harbour --language de Harbour_de.txt"},
                                  [options](Console& console) { return importLanguage(*options, console); });
   addProject(command, options->project);
+  addTables(command, options->tables);
   addRequired(command, "FILE", options->file, "Text file that was exported and filled in");
   addLanguage(command, options->language);
   addWritingOptions(command, options->writing);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "cli/DisplayText.h"
+#include "cli/TableChoice.h"
 
 namespace glossmill {
 
@@ -40,11 +41,12 @@ std::optional<LanguageArray> chosenLanguages(const ProjectSession& session, cons
   return chosen;
 }
 
-OpenedLanguage openLanguage(ProjectSession& session, const ProjectChoice& choice, const std::string& code) {
+OpenedLanguage openLanguage(ProjectSession& session, const ProjectChoice& choice, const std::string& code,
+                            const std::vector<std::string>& tables) {
   const ExitCode opened = session.openPackage(choice);
   if (opened != ExitCode::Fine) return {opened, nullptr};
   const std::optional<LanguageArray> chosen = chosenLanguages(session, {code});
-  if (!chosen) return {ExitCode::WrongUsage, nullptr};
+  if (!chosen || !keepTables(session, tables)) return {ExitCode::WrongUsage, nullptr};
   return {ExitCode::Fine, chosen->front()};
 }
 

@@ -19,7 +19,9 @@ struct OpenedLanguage {
   std::shared_ptr<Language> language;  ///< set when the code is Fine
 };
 
-/// Opens the project and finds the language in it. Anything but Fine has been explained on the console.
-OpenedLanguage openLanguage(ProjectSession& session, const ProjectChoice& choice, const std::string& code);
+/// Opens the project, finds the language in it and keeps the strings of these tables, or all for no ids. Anything but
+/// Fine has been explained on the console.
+OpenedLanguage openLanguage(ProjectSession& session, const ProjectChoice& choice, const std::string& code,
+                            const std::vector<std::string>& tables = {});
 
 }  // namespace glossmill

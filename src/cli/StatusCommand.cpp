@@ -7,6 +7,7 @@
 #include "cli/LanguageChoice.h"
 #include "cli/LanguageTable.h"
 #include "cli/Paths.h"
+#include "cli/TableChoice.h"
 #include "text/PrintableText.h"
 
 namespace glossmill {
@@ -15,6 +16,7 @@ namespace {
 
 struct StatusOptions {
   ProjectChoice project;
+  std::vector<std::string> tables;
   std::vector<std::string> languages;
   bool json = false;
   bool missing = false;
@@ -82,7 +84,7 @@ ExitCode status(const StatusOptions& options, Console& console) {
   const ExitCode opened = session.open(options.project);
   if (opened != ExitCode::Fine) return opened;
   const std::optional<LanguageArray> languages = chosenLanguages(session, options.languages);
-  if (!languages) return ExitCode::WrongUsage;
+  if (!languages || !keepTables(session, options.tables)) return ExitCode::WrongUsage;
   (options.json ? printJson : printText)(session, *languages, options.missing);
   return ExitCode::Fine;
 }
@@ -96,6 +98,7 @@ void addStatusCommand(CLI::App& program, TypedCommand& typed) {
                                   "~/Projects/Harbour --language de --language fr --missing"},
                                  [options](Console& console) { return status(*options, console); });
   addProject(command, options->project);
+  addTables(command, options->tables);
   addLanguages(command, options->languages);
   addFlag(command, "--missing", options->missing, "List the missing keys with comment and file");
   addFlag(command, "--json", options->json, "Print it as JSON");

@@ -14,10 +14,12 @@
 #include "cli/HistoryCommand.h"
 #include "cli/ImportCommand.h"
 #include "cli/InitCommand.h"
+#include "cli/PruneCommand.h"
 #include "cli/RecoverCommand.h"
 #include "cli/RestoreCommand.h"
 #include "cli/SaveCommand.h"
 #include "cli/ScanCommand.h"
+#include "cli/SetCommand.h"
 #include "cli/StatusCommand.h"
 #include "cli/TypedCommand.h"
 #include "host/AllocatorSettings.h"
@@ -51,7 +53,9 @@ void addEverything(CLI::App& program, TypedCommand& typed) {
   addExportCommand(program, typed);
   addImportCommand(program, typed);
   addFillCommand(program, typed);
+  addSetCommand(program, typed);
   addAddLanguageCommand(program, typed);
+  addPruneCommand(program, typed);
   addHistoryCommand(program, typed);
   addRestoreCommand(program, typed);
   addRecoverCommand(program, typed);

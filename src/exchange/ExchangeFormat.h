@@ -28,4 +28,7 @@ struct ExchangeFormat {
 /// All formats; the first is the one that is taken without a choice.
 std::span<const ExchangeFormat> exchangeFormats();
 
+/// The one for projects with tables.
+const ExchangeFormat& tableFormat();
+
 }  // namespace glossmill

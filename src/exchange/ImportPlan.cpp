@@ -1,11 +1,11 @@
 #include "exchange/ImportPlan.h"
 
-#include "model/LocalizeString.h"
+#include "exchange/ImportKey.h"
 
 namespace glossmill {
 
 std::optional<Edit> ImportPlan::editFor(const std::shared_ptr<LocalizeString>& record) const {
-  const auto found = m_table.find(record->name());
+  const auto found = record->tableRow() ? m_table.find(importKey(*record)) : m_table.find(record->name());
   if (found == m_table.end()) return std::nullopt;
   return editOf(record, m_language, found->second);
 }

@@ -28,6 +28,7 @@ enum class EditKind {
   TypingBack,  ///< an editor takes back by itself what was typed into it
   Import,
   Fill,
+  Removal,   ///< of entries that nothing uses
   Undo,      ///< or redo
   Recovery,  ///< of what a former session left unsaved
 };

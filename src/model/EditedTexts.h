@@ -24,6 +24,8 @@ class EditedTexts {
   void removeSaved(const std::string& tableId, LanguageCode language);
   void clear();
 
+  /// Whether something of this table was edited in the language.
+  bool holds(const std::string& tableId, LanguageCode language) const;
   bool empty() const { return m_texts.empty(); }
   /// Each once, in the order of the first edits.
   const std::vector<Text>& texts() const { return m_texts; }

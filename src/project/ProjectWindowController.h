@@ -37,6 +37,7 @@
 namespace glossmill {
 
 class ImportPlan;
+struct ExchangeFormat;
 class ScanRun;
 
 /// Owns the open project for its whole life and offers its operations: the rules are in modules, this class asks the
@@ -233,6 +234,15 @@ class ProjectWindowController : public ProjectContext,
   /// What the last import did.
   const ImportReport& importReport() const { return m_importReport; }
 
+  // ---- Tables, under rules that have them: ProjectWindowControllerTables.cpp ----
+
+  /// The edits that take out what nothing uses, to be looked at before removeEntries().
+  std::vector<Edit> unusedEntries(const LanguageArray& languages) const;
+  void removeEntries(const std::vector<Edit>& edits);
+  /// Makes the directories of a new language beside those of the tables named, or of all that are translated. Null when
+  /// one cannot be made, which an alert has told, or none is to be made.
+  std::shared_ptr<Language> addLanguageToTables(std::string_view code, const std::vector<std::string>& tableIds = {});
+
   // ---- Dialogs: ProjectWindowControllerDialogs.cpp ----
 
   void exportStrings();
@@ -282,6 +292,8 @@ class ProjectWindowController : public ProjectContext,
   void retireWhatIsThere();
   RecordsByPlace recordsByPlace() const;
   bool save(const LanguageArray& languages);
+  bool placeTables(const LanguageArray& languages);
+  bool placeTable(StringsTable& table);
   SaveResult writeFiles(const std::vector<FileText>& plan);
   void addWhatWasRead(std::vector<FileText>& plan) const;
   void rememberSave(const std::vector<FileText>& plan, const SaveResult& result);
@@ -291,6 +303,7 @@ class ProjectWindowController : public ProjectContext,
   std::string newTableFileText(const FileUrl& file, const std::optional<std::string>& language) const;
   AlertAnswer askToSave();
 
+  const ExchangeFormat& exchangeFormat() const;
   void showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name);
   void chooseExportFile(std::shared_ptr<Language> language, ExportScope scope);
   void chooseImportFile(std::shared_ptr<Language> language);

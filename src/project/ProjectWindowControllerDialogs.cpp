@@ -52,7 +52,7 @@ void ProjectWindowController::chooseExportFile(std::shared_ptr<Language> languag
 void ProjectWindowController::chooseImportFile(std::shared_ptr<Language> language) {
   OpenPanelRequest request;
   request.title = localized("Select file");
-  for (const std::string_view type : exchangeFormats().front().fileTypes) request.fileTypes.emplace_back(type);
+  for (const std::string_view type : exchangeFormat().fileTypes) request.fileTypes.emplace_back(type);
   const std::optional<FileUrl> file = m_host.panels.runOpenPanel(request);
   if (file) importLanguageFromFile(language, *file);
 }
@@ -85,6 +85,7 @@ std::shared_ptr<Language> ProjectWindowController::addLanguage(std::string_view 
 /// Without a project directory the new one would be made at the root of the disk.
 std::shared_ptr<Language> ProjectWindowController::addChosenLanguage(const Language& chosen) {
   if (m_projectDirectory.empty()) return nullptr;
+  if (m_options.rules == RuleSet::Xcode) return addLanguageToTables(chosen.iso639());
   const auto language = std::make_shared<Language>(chosen);
   const FileUrl directory = newLanguageParent().appending(formatText("%@.lproj", {language->iso639()}));
   language->setLocalizedStringUrl(directory);

@@ -4,6 +4,10 @@
 
 namespace glossmill {
 
+const ExchangeFormat& ProjectWindowController::exchangeFormat() const {
+  return m_options.rules == RuleSet::Xcode ? tableFormat() : exchangeFormats().front();
+}
+
 void ProjectWindowController::exportLanguageToFileAllStrings(std::shared_ptr<Language> language, const FileUrl& file,
                                                              ExportScope scope) {
   if (!language || file.empty()) return;
@@ -12,7 +16,7 @@ void ProjectWindowController::exportLanguageToFileAllStrings(std::shared_ptr<Lan
 }
 
 void ProjectWindowController::bgExportLanguage(const Language& language, const FileUrl& file, ExportScope scope) {
-  const ExchangeFormat& format = exchangeFormats().front();
+  const ExchangeFormat& format = exchangeFormat();
   std::optional<std::string> text(std::in_place, format.start);
   std::int64_t counter = 0;
   for (const std::shared_ptr<LocalizeString>& record : stringList()) {

@@ -17,8 +17,7 @@ void ProjectWindowController::bgImportLanguage(const Language& language, const F
   const Result<std::string> text = readText(m_host.files, file);
   ImportReport report;
   if (!text) report.unread = text.error();
-  const bool finished =
-      !text || applyImport(ImportPlan(exchangeFormats().front().read(text.value()), language.code()), report);
+  const bool finished = !text || applyImport(ImportPlan(exchangeFormat().read(text.value()), language.code()), report);
   onMainThread([&] {
     m_importReport = report;
     finished ? endImport() : endCanceledImport(language, file);

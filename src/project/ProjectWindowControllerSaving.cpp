@@ -44,13 +44,13 @@ bool ProjectWindowController::saveProject() {
 /// The languages live on while an alert is up: the project may be closed behind it.
 bool ProjectWindowController::save(const LanguageArray& languages) {
   const LanguageArray kept = languages;
+  bool allWritten = placeTables(kept);
   std::vector<FileText> plan = m_rules->planSave({m_host.files, stringList(), kept, m_tables, m_edited});
   addWhatWasRead(plan);
   const SaveResult result = writeFiles(plan);
   if (result.refusal) return false;
   rememberSave(plan, result);
   retireWritten(plan, result);
-  bool allWritten = true;
   for (std::size_t at = 0; at < plan.size(); ++at) {
     allWritten = allWritten && result.files[at].isWritten();
     tellOfSave(plan[at], result.files[at], nameOfLanguage(kept, plan[at].language));

@@ -3,6 +3,7 @@
 #include "edit/BaseLanguage.h"
 #include "support/LanguageCodes.h"
 #include "support/StoredTranslation.h"
+#include "support/TableRecord.h"
 
 namespace glossmill {
 namespace {
@@ -33,6 +34,23 @@ TEST(BaseLanguage, NeverOverwritesATranslation) {
 TEST(BaseLanguage, NeverOverwritesEvenAnEmptyEntry) {
   const auto record = openRecord();
   store(*record, kFrench, "");
+  EXPECT_FALSE(fillFromKey(record, kFrench));
+}
+
+TEST(BaseLanguage, ARowOfATableGetsItsSourceTextWhereATranslationIsWanted) {
+  TextArena arena;
+  const auto record = tableRecord("a", "OPEN");
+  EXPECT_FALSE(fillFromKey(record, kFrench));
+  record->tableRow()->sourceText = arena.add("Open");
+  ASSERT_TRUE(fillFromKey(record, kFrench));
+  EXPECT_EQ(fillFromKey(record, kFrench)->after, "Open");
+  record->tableRow()->isWanted = false;
+  EXPECT_FALSE(fillFromKey(record, kFrench));
+  record->tableRow()->isWanted = true;
+  record->tableRow()->isUnused = true;
+  EXPECT_FALSE(fillFromKey(record, kFrench));
+  record->tableRow()->isUnused = false;
+  record->tableRow()->sourceText = arena.add("");
   EXPECT_FALSE(fillFromKey(record, kFrench));
 }
 

@@ -43,7 +43,10 @@ TEST(EditedTexts, ThoseOfASavedFileGo) {
   edited.add(editOf(ebb, kGerman, "x"));
   edited.add(editOf(ebb, kFrench, "x"));
   edited.add(editOf(tide, kGerman, "x"));
+  EXPECT_TRUE(edited.holds("a", kGerman));
+  EXPECT_FALSE(edited.holds("b", kFrench));
   edited.removeSaved("a", kGerman);
+  EXPECT_FALSE(edited.holds("a", kGerman));
   EXPECT_EQ(keysOf(edited), (std::vector<std::string>{"Ebb.fr", "Tide.de"}));
   edited.add(editOf(ebb, kGerman, "y"));
   EXPECT_EQ(keysOf(edited).back(), "Ebb.de");
