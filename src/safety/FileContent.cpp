@@ -42,6 +42,16 @@ BytePieces contentOf(Files& files, const FileUrl& file) {
   };
 }
 
+BytePieces verified(BytePieces pieces, const ContentHash& hash) {
+  return [pieces = std::move(pieces), hash, hasher = std::make_shared<ContentHasher>()]() -> Result<std::string_view> {
+    const Result<std::string_view> piece = pieces();
+    if (!piece) return piece;
+    hasher->add(piece.value());
+    if (!piece.value().empty() || hasher->finish() == hash) return piece;
+    return Error{"What was read of it is not what it holds."};
+  };
+}
+
 Result<ContentHash> hashOfContent(const BytePieces& pieces) {
   ContentHasher hasher;
   while (true) {

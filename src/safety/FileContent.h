@@ -13,6 +13,9 @@ BytePieces contentOf(Files& files, const FileUrl& file);
 /// The bytes of an open reader.
 BytePieces contentOf(std::shared_ptr<ByteReader> reader);
 
+/// The same pieces, and an error at their end when they were not what has this hash.
+BytePieces verified(BytePieces pieces, const ContentHash& hash);
+
 Result<ContentHash> hashOfContent(const BytePieces& pieces);
 
 /// Compares two files byte for byte.

@@ -13,7 +13,7 @@ namespace {
 
 BytePieces keptContent(SavedVersions& versions, const ContentHash& hash) {
   Result<std::unique_ptr<ByteReader>> reader = versions.content(hash);
-  if (reader) return contentOf(std::shared_ptr<ByteReader>(std::move(reader.value())));
+  if (reader) return verified(contentOf(std::shared_ptr<ByteReader>(std::move(reader.value()))), hash);
   return [error = reader.error()]() -> Result<std::string_view> { return error; };
 }
 

@@ -67,7 +67,7 @@ Outcome SavedVersions::keepContent(const FileUrl& file, const ContentHash& hash)
   }
   const Outcome made = m_disk.createPrivateDirectory(kept.value().parent());
   if (!made) return made;
-  return m_disk.writePrivate(kept.value(), contentOf(m_files, file));
+  return m_disk.writePrivate(kept.value(), verified(contentOf(m_files, file), hash));
 }
 
 Result<std::unique_ptr<ByteReader>> SavedVersions::content(const ContentHash& hash) {

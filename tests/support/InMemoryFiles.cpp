@@ -169,6 +169,11 @@ void InMemoryFiles::failReadingAfter(std::string_view path, std::size_t bytes, s
   m_readFailures[std::string(path)] = {bytes, std::string(sentence)};
 }
 
+void InMemoryFiles::endReadingAfter(std::string_view path, std::size_t bytes) {
+  const std::lock_guard lock(m_mutex);
+  m_readFailures[std::string(path)] = {bytes, std::nullopt};
+}
+
 void InMemoryFiles::failWriting(std::string_view path, std::string_view sentence) {
   const std::lock_guard lock(m_mutex);
   m_writeFailures[std::string(path)] = sentence;
@@ -252,8 +257,9 @@ Result<std::unique_ptr<ByteReader>> InMemoryFiles::open(const FileUrl& file) {
   const auto failure = m_readFailures.find(file.path());
   const bool fails = failure != m_readFailures.end();
   std::string bytes = fails ? node->bytes.substr(0, failure->second.after) : node->bytes;
-  return std::unique_ptr<ByteReader>(std::make_unique<MemoryReader>(
-      std::move(bytes), fails ? std::optional(Error{failure->second.sentence}) : std::nullopt));
+  std::optional<Error> endError;
+  if (fails && failure->second.sentence) endError = Error{*failure->second.sentence};
+  return std::unique_ptr<ByteReader>(std::make_unique<MemoryReader>(std::move(bytes), std::move(endError)));
 }
 
 Outcome InMemoryFiles::createDirectory(const FileUrl& directory, bool intermediate) {

@@ -43,6 +43,8 @@ class InMemoryFiles : public Files {
   void failOpening(std::string_view path, std::string_view sentence);
   /// The file opens and gives its first `bytes` bytes.
   void failReadingAfter(std::string_view path, std::size_t bytes, std::string_view sentence);
+  /// The file ends there, as one that could not be read completely.
+  void endReadingAfter(std::string_view path, std::size_t bytes);
   void failWriting(std::string_view path, std::string_view sentence);
   void failCreating(std::string_view path, std::string_view sentence);
   /// For another disk that writes these files: notes the write, and gives the failure that is wanted.
@@ -80,7 +82,7 @@ class InMemoryFiles : public Files {
   };
   struct ReadFailure {
     std::size_t after = 0;
-    std::string sentence;
+    std::optional<std::string> sentence;  ///< nothing: no error
   };
   using Sentences = std::map<std::string, std::string, std::less<>>;
 

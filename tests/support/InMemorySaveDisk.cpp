@@ -88,24 +88,36 @@ Outcome InMemorySaveDisk::begin(const std::string& operation) {
   return Done{};
 }
 
+Outcome InMemorySaveDisk::ask() {
+  return ++m_asked == m_questionFailure.operation ? Outcome(Error{std::string(m_questionFailure.sentence)}) : Done{};
+}
+
 Outcome InMemorySaveDisk::within(const FileUrl& url, const WriteLimits& limits) const {
   if (limits.within.empty() || url.path().starts_with(limits.within.path() + "/")) return Done{};
   return Error{"It lies outside.", ErrorKind::Outside};
 }
 
 Result<FileUrl> InMemorySaveDisk::resolve(const FileUrl& url) {
+  const Outcome asked = ask();
+  if (!asked) return asked.error();
   return FileUrl(m_files.whereLinksLead(url.path()));
 }
 
 Result<std::optional<FileStamp>> InMemorySaveDisk::stampOf(const FileUrl& file) {
+  const Outcome asked = ask();
+  if (!asked) return asked.error();
+  return knownStampOf(file);
+}
+
+std::optional<FileStamp> InMemorySaveDisk::knownStampOf(const FileUrl& file) {
   const std::optional<std::string> bytes = m_files.bytesOf(file.path());
-  if (!bytes) return std::optional<FileStamp>();
+  if (!bytes) return std::nullopt;
   FileStamp stamp;
   stamp.size = bytes->size();
   stamp.modified = static_cast<std::int64_t>(std::hash<std::string>()(*bytes) >> 1);
   stamp.node = m_files.identityOf(file)->node;
   stamp.mode = 0644;
-  return std::optional(stamp);
+  return stamp;
 }
 
 Result<std::unique_ptr<PreparedWrite>> InMemorySaveDisk::prepare(const FileUrl& file, const BytePieces& bytes,
@@ -121,7 +133,7 @@ Result<std::unique_ptr<PreparedWrite>> InMemorySaveDisk::prepare(const FileUrl& 
   if (!text) return text.error();
   if (m_files.kindOf(target) == EntryKind::Directory) return Error{"It is a directory, not a file."};
   if (m_files.kindOf(target.parent()) != EntryKind::Directory) return Error{"The directory does not exist."};
-  const std::optional<FileStamp> former = stampOf(target).value();
+  const std::optional<FileStamp> former = knownStampOf(target);
   const FileUrl temporary = target.parent().appending(".glossmill-7-" + std::to_string(m_written++) + ".tmp");
   m_files.addFile(temporary.path(), text.value());
   m_temporaries.push_back(temporary);
@@ -166,6 +178,8 @@ Result<FileUrl> InMemorySaveDisk::stateDirectory() {
 }
 
 Outcome InMemorySaveDisk::createPrivateDirectory(const FileUrl& directory) {
+  const Outcome asked = ask();
+  if (!asked) return asked;
   m_files.addDirectory(directory.path());
   return Done{};
 }
@@ -185,6 +199,8 @@ Result<std::unique_ptr<GrowingFile>> InMemorySaveDisk::openGrowing(const FileUrl
 }
 
 Result<std::unique_ptr<DirectoryLock>> InMemorySaveDisk::tryLock(const FileUrl& directory) {
+  const Outcome asked = ask();
+  if (!asked) return asked.error();
   const std::lock_guard lock(m_mutex);
   if (!m_locked.insert(directory.path()).second) return std::unique_ptr<DirectoryLock>();
   return std::unique_ptr<DirectoryLock>(std::make_unique<InMemoryLock>(*this, directory.path()));

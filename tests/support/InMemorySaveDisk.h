@@ -27,6 +27,10 @@ class InMemorySaveDisk : public SaveDisk {
 
   /// The operation with this number, from 1, fails with the sentence.
   void failAt(int operation, std::string_view sentence = "The disk is broken.") { m_failure = {operation, sentence}; }
+  /// The question with this number fails: where a path leads, what a file's stamp is, a lock, or a private directory.
+  void failQuestion(int question, std::string_view sentence = "The disk is broken.") {
+    m_questionFailure = {question, sentence};
+  }
   void killBefore(int operation) { m_killed = operation; }
   /// Called before each operation is noted.
   std::function<void(const std::string&)> onOperation;
@@ -40,6 +44,7 @@ class InMemorySaveDisk : public SaveDisk {
 
   /// "prepare /x", "rename /x", "mkdir /x", "remove /x", "keep /x", in order.
   const std::vector<std::string>& operations() const { return m_operations; }
+  int questions() const { return m_asked; }
   bool holdsLock() const { return !m_locked.empty(); }
 
   // ---- The disk itself ----
@@ -70,6 +75,8 @@ class InMemorySaveDisk : public SaveDisk {
   };
 
   Outcome begin(const std::string& operation);
+  Outcome ask();
+  std::optional<FileStamp> knownStampOf(const FileUrl& file);
   Outcome within(const FileUrl& url, const WriteLimits& limits) const;
 
   InMemoryFiles& m_files;
@@ -81,6 +88,8 @@ class InMemorySaveDisk : public SaveDisk {
   int m_killed = 0;
   bool m_isDead = false;
   Failure m_failure;
+  int m_asked = 0;
+  Failure m_questionFailure;
   std::set<std::string> m_locked;  ///< paths of directories
   int m_written = 0;
 };
