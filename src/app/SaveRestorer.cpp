@@ -47,7 +47,8 @@ bool SaveRestorer::restore(const std::string& id, const std::vector<FileUrl>& wa
   const std::optional<SavedVersion> found = version(id);
   if (!found || !m_project.mayReadAnew()) return false;
   SavedVersions kept(m_host.files, m_host.saves, m_project.projectDirectory());
-  const std::optional<RestorePlan> planned = plan(kept, *found, wanted);
+  // A part of a save that was cut short would leave some files new and some old for good.
+  const std::optional<RestorePlan> planned = plan(kept, *found, found->isFinished ? wanted : std::vector<FileUrl>());
   if (!planned) return false;
   const Written written = write(kept, *found, *planned);
   if (written.result.refusal) tellOfRefusal(*written.result.refusal, [this, id, wanted] { restore(id, wanted); });

@@ -130,6 +130,10 @@ ExitCode RestoreRun::takeBack() {
                                            : "there is no save " + inQuotes(m_options.from));
     return m_options.from.empty() ? ExitCode::Unusable : ExitCode::WrongUsage;
   }
+  if (m_unfinished && (version->id != m_unfinished->id || !m_options.files.empty())) {
+    m_console.error("a save of this project was cut short; finish it or take it back as a whole first");
+    return ExitCode::Unusable;
+  }
   const RestorePlan plan =
       planRestore(m_files, m_versions, *version, wantedFiles(), m_options.writing.allows("changed"));
   for (const FileUrl& lost : plan.lost) {

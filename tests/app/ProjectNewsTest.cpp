@@ -135,6 +135,15 @@ TEST_F(ProjectNewsTest, OffersToTakeItBack) {
   EXPECT_TRUE(project().saveProject());
 }
 
+TEST_F(ProjectNewsTest, TakesASaveThatWasCutShortBackAsAWholeOnly) {
+  killASaveInTheMiddle();
+  openWithoutPatience();
+  const std::string id = m_news->restorer.versions().front().id;
+  EXPECT_TRUE(m_news->restorer.restore(id, {FileUrl(stringsFileOf("fr"))}));
+  m_test.host.runUntilIdle();
+  EXPECT_EQ(m_test.savedFile("de"), kGermanBefore);
+}
+
 TEST_F(ProjectNewsTest, OffersBothWhenASaveIsRefusedForIt) {
   killASaveInTheMiddle();
   EXPECT_FALSE(project().saveProject());
