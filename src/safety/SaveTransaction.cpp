@@ -255,9 +255,6 @@ void SaveTransaction::lookOnceMore(const std::vector<Step>& steps) {
   for (const Step& step : steps) {
     if (isWrittenMeanwhile(step)) refuse(SaveRefusal::Kind::Changed, step.saved.file, std::string(kWrittenMeanwhile));
   }
-  if (!m_result.refusal || !m_result.id) return;
-  static_cast<void>(m_versions.drop(*m_result.id));
-  m_result.id.reset();
 }
 
 /// Since its new text was prepared. A file that vanished is written anew.
