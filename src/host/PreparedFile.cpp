@@ -30,6 +30,22 @@ constexpr auto kSameOwner = static_cast<uid_t>(-1);
 constexpr std::string_view kNameStart = ".glossmill-";
 constexpr std::string_view kNameEnd = ".tmp";
 
+#if defined(__linux__)
+constexpr unsigned kExchange = RENAME_EXCHANGE;
+constexpr unsigned kNoReplace = RENAME_NOREPLACE;
+#else
+constexpr unsigned kExchange = 1;
+constexpr unsigned kNoReplace = 2;
+#endif
+
+bool isUnsupported(int code) {
+  return code == EINVAL || code == ENOSYS;
+}
+
+Error changedMeanwhile() {
+  return {"It was changed by another program while it was saved."};
+}
+
 /// The attributes of the file to be replaced, nothing when there is none; an error when it must not be replaced.
 Result<std::optional<struct stat>> formerFile(const OpenedDirectory& directory, const std::string& name) {
   struct stat info {};
@@ -72,6 +88,11 @@ class PreparedFile : public PreparedWrite {
  private:
   bool takePermissions();
   std::string formerPath() const;
+  Outcome exchange();
+  Outcome appear();
+  Outcome replace();
+  int renameWith(unsigned flags) const;
+  bool isStillFormer(const struct stat& there) const;
 
   OpenedDirectory m_directory;
   std::string m_name;
@@ -141,13 +162,63 @@ Outcome PreparedFile::flushAndClose() {
   return Done{};
 }
 
+/// Somebody may write the file between the look at it and its replacement. So the two change places, and whatever was
+/// there is looked at before it goes.
 Outcome PreparedFile::putInPlace() {
-  if (renameat(m_directory.number(), m_temporaryName.c_str(), m_directory.number(), m_name.c_str()) != 0) {
-    return systemError(errno);
-  }
+  const Outcome placed = m_former ? exchange() : appear();
+  if (!placed) return placed;
   m_exists = false;
   m_directory.flush();
   return Done{};
+}
+
+Outcome PreparedFile::exchange() {
+  const int code = renameWith(kExchange);
+  if (code == ENOENT || isUnsupported(code)) return replace();
+  if (code != 0) return systemError(code);
+  struct stat there {};
+  const bool isKnown =
+      fstatat(m_directory.number(), m_temporaryName.c_str(), &there, AT_SYMLINK_NOFOLLOW) == 0 && isStillFormer(there);
+  if (isKnown) {
+    // What stays when this fails is removed by the next save.
+    static_cast<void>(unlinkat(m_directory.number(), m_temporaryName.c_str(), 0));
+    return Done{};
+  }
+  const int back = renameWith(kExchange);
+  return back == 0 ? changedMeanwhile() : systemError(back);
+}
+
+Outcome PreparedFile::appear() {
+  const int code = renameWith(kNoReplace);
+  if (code == EEXIST) return changedMeanwhile();
+  if (isUnsupported(code)) return replace();
+  return code == 0 ? Outcome(Done{}) : systemError(code);
+}
+
+/// For a file that has vanished, and for file systems that cannot do better.
+Outcome PreparedFile::replace() {
+  const bool isReplaced =
+      renameat(m_directory.number(), m_temporaryName.c_str(), m_directory.number(), m_name.c_str()) == 0;
+  return isReplaced ? Outcome(Done{}) : systemError(errno);
+}
+
+/// 0, or why not.
+int PreparedFile::renameWith(unsigned flags) const {
+#if defined(__linux__)
+  const bool isDone =
+      renameat2(m_directory.number(), m_temporaryName.c_str(), m_directory.number(), m_name.c_str(), flags) == 0;
+  return isDone ? 0 : errno;
+#else
+  static_cast<void>(flags);
+  return ENOSYS;
+#endif
+}
+
+/// A rename changes the time of change.
+bool PreparedFile::isStillFormer(const struct stat& there) const {
+  FileStamp now = stampOf(there);
+  now.changed = m_former->changed;
+  return now == *m_former;
 }
 
 }  // namespace

@@ -247,7 +247,9 @@ void SaveTransaction::keepVersion(const std::vector<Step>& steps) {
   if (kept) kept = m_record.note(saved, directories);
   if (kept) return;
   m_record.forget();
-  if (!m_order.allowance.noCopy) refuse(SaveRefusal::Kind::NoCopy, m_order.project, kept.error().sentence);
+  lookOnceMore(steps);  // what was written meanwhile is not copied either
+  if (!m_result.refusal && !m_order.allowance.noCopy)
+    refuse(SaveRefusal::Kind::NoCopy, m_order.project, kept.error().sentence);
 }
 
 /// Flushing texts and copies takes its time, in which an editor may have written one of the files.
