@@ -51,7 +51,7 @@ SaveResult SaveTransaction::save(const std::vector<FileText>& texts) {
   std::vector<Step> steps(texts.size());
   for (std::size_t at = 0; at < texts.size() && !m_result.refusal; ++at) prepare(texts[at], steps[at]);
   if (!m_result.refusal) keepVersion(steps);
-  if (!m_result.refusal) lookOnceMore(steps);
+  if (!m_result.refusal || m_result.refusal->kind == SaveRefusal::Kind::NoCopy) lookOnceMore(steps);
   if (m_result.refusal) {
     removeDirectories(steps);
     m_record.forget();
@@ -252,11 +252,15 @@ void SaveTransaction::keepVersion(const std::vector<Step>& steps) {
     refuse(SaveRefusal::Kind::NoCopy, m_order.project, kept.error().sentence);
 }
 
-/// Flushing texts and copies takes its time, in which an editor may have written one of the files.
+/// Flushing texts and copies takes its time, in which an editor may have written one of the files. That it could not be
+/// copied is then no more than a consequence.
 void SaveTransaction::lookOnceMore(const std::vector<Step>& steps) {
+  SaveRefusal changed;
+  changed.kind = SaveRefusal::Kind::Changed;
   for (const Step& step : steps) {
-    if (isWrittenMeanwhile(step)) refuse(SaveRefusal::Kind::Changed, step.saved.file, std::string(kWrittenMeanwhile));
+    if (isWrittenMeanwhile(step)) changed.places.push_back({step.saved.file, std::string(kWrittenMeanwhile)});
   }
+  if (!changed.places.empty()) m_result.refusal = changed;
 }
 
 /// Since its new text was prepared. A file that vanished is written anew.
