@@ -132,8 +132,8 @@ TEST_F(StringsSaveTest, ANewEntryFollowsTheDevelopmentLanguageAsItIsToBe) {
   edit(0, "a", "en", std::nullopt);
   edit(0, "m", "en", "x");
   edit(0, "m", "de", "y");
-  EXPECT_EQ(plan(), (Lines{"/p/a/de.lproj/Boats.strings: z = 1;\na = 2;\nm = \"y\";\n",
-                           "/p/a/en.lproj/Boats.strings: z = 1;\nm = \"x\";\n"}));
+  EXPECT_EQ(plan(), (Lines{"/p/a/de.lproj/Boats.strings: m = \"y\";\nz = 1;\na = 2;\n",
+                           "/p/a/en.lproj/Boats.strings: m = \"x\";\nz = 1;\n"}));
 }
 
 TEST_F(StringsSaveTest, AFileWithAMistakeIsNeverWritten) {
