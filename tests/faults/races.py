@@ -117,6 +117,25 @@ def command_and_editor(bench, _, number):
     return "lost the editor's words" if code == 0 and found.get(BY_EDITOR[0]) != BY_EDITOR[1] else None
 
 
+def start_other_import(bench):
+    text = bench.work / "other.txt"
+    text.write_text(f"\n--- 0 ---\n/* */\n{BY_WINDOW[0]}\n{BY_WINDOW[1]}\n\n")
+    return bench.start(["import", str(bench.copy), "--language", LANGUAGE, str(text), "--quiet", "--wait", "30"])
+
+
+def two_commands(bench, _, number):
+    bench.prepare()
+    without(bench, BY_WINDOW[0], BY_COMMAND[0])
+    one = start_other_import(bench)
+    time.sleep(random.Random(number).uniform(0, LATEST / 2))
+    other = start_import(bench)
+    codes = bench.finish(one).code, bench.finish(other).code
+    if codes != (0, 0):
+        return f"one of them does not get through: {codes}"
+    lost = missing(bench, [("one", True, BY_WINDOW), ("other", True, BY_COMMAND)])
+    return f"lost what was saved by: {lost}" if lost else None
+
+
 def trials(race, bench, driver, count):
     """Yields (number, what went wrong or None)."""
     for number in range(count):
