@@ -25,7 +25,6 @@ class SourcesReader {
       if (m_input.canceled.isSet()) return std::move(m_found);
       readSource(number, isSwift(m_sources[number].path) ? inSwift : inC);
     }
-    m_found.texts.finish();
     return std::move(m_found);
   }
 

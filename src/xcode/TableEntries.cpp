@@ -79,6 +79,8 @@ class TableReader {
 
   void takeEntries(std::size_t number, const StringsDocument& document) {
     std::vector<StoredText>& column = m_entries.columns[number];
+    column.reserve(m_entries.keys.size());
+    m_expected = 0;
     std::size_t end = 0;
     bool repeats = false;
     for (const StringsEntry& entry : document.entries()) {
@@ -92,9 +94,14 @@ class TableReader {
     if (repeats) reportRepetitions(m_table.table->files[number], document);
   }
 
+  /// Files tend to hold the same keys in the same order, so the one that stood next in an earlier file is tried first.
   KeyIndex::Number numberOf(const StringsDocument& document, const StringsEntry& entry) {
-    if (entry.key.isPlain) return m_entries.keys.add(document.spelled(entry.key)).first;
-    return m_entries.keys.add(document.keyOf(entry)).first;
+    if (!entry.key.isPlain) return m_entries.keys.add(document.keyOf(entry)).first;
+    const std::string_view key = document.spelled(entry.key);
+    const bool isExpected = m_expected < m_entries.keys.size() && m_entries.keys.key(m_expected) == key;
+    const KeyIndex::Number number = isExpected ? m_expected : m_entries.keys.add(key).first;
+    m_expected = number + 1;
+    return number;
   }
 
   StoredText valueOf(const StringsDocument& document, const StringsEntry& entry) {
@@ -129,6 +136,7 @@ class TableReader {
   const ScanInput& m_input;
   const std::function<void(Problem)>& m_report;
   TableEntries m_entries;
+  KeyIndex::Number m_expected = 0;  ///< the key that stood next in an earlier file
 };
 
 }  // namespace

@@ -12,7 +12,9 @@ TableRows::TableRows(std::shared_ptr<StringsTable> table, TableEntries entries, 
     : m_table(std::move(table)), m_entries(std::move(entries)), m_arena(std::move(arena)) {
   m_records.resize(m_entries.keys.size());
   for (std::size_t file = 0; file < m_table->files.size(); ++file) {
-    if (m_table->files[file].language == m_table->development) m_development = file;
+    const LanguageCode language = m_table->files[file].language;
+    if (language == m_table->development) m_development = file;
+    if (file == 0 || language.number() > m_highest.number()) m_highest = language;
   }
 }
 
@@ -45,8 +47,10 @@ void TableRows::addCall(std::string_view key, const CallList::Call& call, const 
 
 /// One key may have a million of them.
 void TableRows::addComment(Number key, std::string_view comment) {
+  std::vector<std::string>& comments = m_records[key]->commentArray();
+  if (!comments.empty() && comments.back() == comment) return;
   const std::uint64_t hash = std::hash<std::string_view>()(comment) * 31 + key;
-  if (m_comments.insert(hash).second) m_records[key]->commentArray().emplace_back(comment);
+  if (m_comments.insert(hash).second) comments.emplace_back(comment);
 }
 
 bool TableRows::isUnused(Number key, const WholeTexts& texts) const {
@@ -76,6 +80,7 @@ void TableRows::complete(Number key, const WholeTexts& texts) {
     record.commentArray().emplace_back(m_entries.comments[key].view());
   }
   LanguagesDict translations = record.takeLanguagesDict();
+  translations.reserve(m_highest);
   for (std::size_t file = 0; file < m_table->files.size(); ++file) {
     const StoredText text = m_entries.find(file, key);
     if (text) translations.setStored(m_table->files[file].language, text);

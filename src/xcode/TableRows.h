@@ -46,6 +46,7 @@ class TableRows {
   TableEntries m_entries;
   std::shared_ptr<TextArena> m_arena;
   std::optional<std::size_t> m_development;  ///< number of the file of that language
+  LanguageCode m_highest;                    ///< of the files' languages, by number
   StringArray m_records;                     ///< by key; null until there is one
   std::vector<StoredText> m_values;          ///< the default values of calls, by key
   std::vector<Number> m_order;               ///< of the rows

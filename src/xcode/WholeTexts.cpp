@@ -14,15 +14,36 @@ namespace glossmill {
 namespace {
 
 constexpr std::size_t kLongestText = 4096;
+constexpr std::size_t kFewestTexts = 1024;
 
+/// Never 0.
 std::uint64_t hashOfText(std::string_view text) {
-  return std::hash<std::string_view>()(text);
+  return std::hash<std::string_view>()(text) | 1;
 }
 
 }  // namespace
 
 void WholeTexts::add(std::string_view text) {
-  m_hashes.push_back(hashOfText(text));
+  if (2 * m_count >= m_slots.size()) grow();
+  const std::uint64_t hash = hashOfText(text);
+  std::uint64_t& slot = m_slots[slotOf(hash)];
+  m_count += slot == 0 ? 1 : 0;
+  slot = hash;
+}
+
+std::size_t WholeTexts::slotOf(std::uint64_t hash) const {
+  const std::size_t mask = m_slots.size() - 1;
+  std::size_t at = static_cast<std::size_t>(hash >> 1) & mask;
+  while (m_slots[at] != 0 && m_slots[at] != hash) at = (at + 1) & mask;
+  return at;
+}
+
+void WholeTexts::grow() {
+  std::vector<std::uint64_t> former(std::max(kFewestTexts, 2 * m_slots.size()));
+  former.swap(m_slots);
+  for (const std::uint64_t hash : former) {
+    if (hash != 0) m_slots[slotOf(hash)] = hash;
+  }
 }
 
 /// Either language may be meant.
@@ -65,13 +86,8 @@ void WholeTexts::addDocument(std::string_view text) {
   }
 }
 
-void WholeTexts::finish() {
-  std::sort(m_hashes.begin(), m_hashes.end());
-  m_hashes.erase(std::unique(m_hashes.begin(), m_hashes.end()), m_hashes.end());
-}
-
 bool WholeTexts::hold(std::string_view text) const {
-  return std::binary_search(m_hashes.begin(), m_hashes.end(), hashOfText(text));
+  return !m_slots.empty() && m_slots[slotOf(hashOfText(text))] != 0;
 }
 
 }  // namespace glossmill

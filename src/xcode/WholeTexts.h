@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -15,16 +16,17 @@ class WholeTexts {
   /// Of an interface file or a property list in XML: what stands between tags, or in an attribute.
   void addDocument(std::string_view text);
 
-  /// Nothing more is added afterwards.
-  void finish();
-  /// Only after finish().
   bool hold(std::string_view text) const;
 
  private:
   void add(std::string_view text);
   void addSpelled(std::string_view text);
+  /// The slot that has the hash, or the empty one where it belongs.
+  std::size_t slotOf(std::uint64_t hash) const;
+  void grow();
 
-  std::vector<std::uint64_t> m_hashes;
+  std::vector<std::uint64_t> m_slots;  ///< a power of two of them, at most half full; 0 is empty
+  std::size_t m_count = 0;
 };
 
 }  // namespace glossmill

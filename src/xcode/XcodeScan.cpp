@@ -165,7 +165,6 @@ class StringsPhase {
       const Result<std::string> text = readMemberText(document, m_input.files);
       if (text) m_state.texts.addDocument(text.value());
     }
-    m_state.texts.finish();
   }
 
   void makeLanguages() {

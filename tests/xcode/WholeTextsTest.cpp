@@ -10,14 +10,12 @@ namespace {
 WholeTexts ofSource(std::string_view text) {
   WholeTexts texts;
   texts.addSource(text);
-  texts.finish();
   return texts;
 }
 
 WholeTexts ofDocument(std::string_view text) {
   WholeTexts texts;
   texts.addDocument(text);
-  texts.finish();
   return texts;
 }
 
