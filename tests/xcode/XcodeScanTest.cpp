@@ -77,8 +77,8 @@ TEST_F(XcodeScanTest, AMissingProjectThatIsReferencedIsAProblem) {
 TEST_F(XcodeScanTest, AFileThatIsListedAndMissingIsNeverAskedFor) {
   m_files.remove("/p/Main.m");
   scan();
-  EXPECT_EQ(problems(), (Lines{"/p/App.xcodeproj/project.pbxproj file-missing",
-                               "/p/App.xcodeproj/project.pbxproj package-missing"}));
+  EXPECT_EQ(problems(), (Lines{"/p/App.xcodeproj/project.pbxproj package-missing",
+                               "/p/App.xcodeproj/project.pbxproj file-missing"}));
   for (const std::string& path : m_files.opened()) EXPECT_NE(path, "/p/Main.m");
 }
 
