@@ -6,6 +6,7 @@
 #include "cli/DisplayText.h"
 #include "cli/LanguageChoice.h"
 #include "cli/TableChoice.h"
+#include "text/Utf8.h"
 
 namespace glossmill {
 
@@ -48,6 +49,10 @@ std::shared_ptr<LocalizeString> onlyRecord(const ProjectSession& session, const 
 }
 
 ExitCode set(const SetOptions& options, Console& console) {
+  if (!isValidUtf8(options.text)) {
+    console.error("the text is not valid UTF-8");
+    return ExitCode::WrongUsage;
+  }
   ProjectSession session(console, {.writing = &options.writing, .command = "set --language " + options.language});
   const OpenedLanguage opened = openLanguage(session, options.project, options.language);
   if (opened.code != ExitCode::Fine) return opened.code;

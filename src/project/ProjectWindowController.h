@@ -300,7 +300,7 @@ class ProjectWindowController : public ProjectContext,
   void retireWritten(const std::vector<FileText>& plan, const SaveResult& result);
   void tellOfSave(const FileText& text, const FileOutcome& outcome, const std::optional<std::string>& language);
   std::string newLocalizableText(const FileUrl& file, const std::optional<std::string>& language) const;
-  std::string newTableFileText(const FileUrl& file, const std::optional<std::string>& language) const;
+  std::string newTableFileText(const FileUrl& file, const std::string& language) const;
   AlertAnswer askToSave();
 
   const ExchangeFormat& exchangeFormat() const;

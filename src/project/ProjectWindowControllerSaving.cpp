@@ -99,10 +99,12 @@ void ProjectWindowController::tellOfSave(const FileText& text, const FileOutcome
                                          const std::optional<std::string>& language) {
   const FileUrl& url = text.file;
   if (outcome.kind == FileOutcome::Kind::Created) {
-    runOkAlert(m_rules->savesOnlyEdits() ? newTableFileText(url, language) : newLocalizableText(url, language));
+    runOkAlert(m_rules->savesOnlyEdits() ? newTableFileText(url, language.value_or(text.language))
+                                         : newLocalizableText(url, language));
   } else if (outcome.kind == FileOutcome::Kind::Failed) {
     runOkAlert(m_rules->savesOnlyEdits()
-                   ? formatText(localized("Error saving %@ for language %@"), {url.lastPathComponent(), language})
+                   ? formatText(localized("Error saving %@ for language %@"),
+                                {url.lastPathComponent(), language.value_or(text.language)})
                    : formatText(localized("Error saving Localizable.strings for language %@"), {language}),
                AlertRequest::Cause{url, outcome.error});
     systemLog({"Error %@ writing file: %@", {outcome.error.sentence, url.text()}});
@@ -120,8 +122,7 @@ std::string ProjectWindowController::newLocalizableText(const FileUrl& file,
                     {language, file.text()});
 }
 
-std::string ProjectWindowController::newTableFileText(const FileUrl& file,
-                                                      const std::optional<std::string>& language) const {
+std::string ProjectWindowController::newTableFileText(const FileUrl& file, const std::string& language) const {
   return formatText(localized("Created a new %@ for language %@ at:\n\n%@\n\nAdd it to the project in Xcode, as a "
                               "localization beside those that the project has."),
                     {file.lastPathComponent(), language, file.path()});

@@ -154,6 +154,16 @@ TEST_F(XcodeSaving, ANewFileIsToldOfAndBelongsToItsTable) {
   EXPECT_EQ(m_host.files.bytesOf("/p/de.lproj/Boats.strings"), "\"a\" = \"x\";\n\"b\" = \"y\";\n");
 }
 
+TEST_F(XcodeSaving, ALanguageWithoutANameIsToldByItsCode) {
+  addStrings("en.lproj/Boats.strings", "\"a\" = \"1\";\n");
+  addStrings("pt-BR.lproj/Ships.strings", "\"c\" = \"3\";\n");
+  open();
+  edit("Boats", "a", "pt-BR", "x");
+  EXPECT_TRUE(project().saveProject());
+  ASSERT_EQ(m_host.panels.alerts.size(), 1U);
+  EXPECT_TRUE(m_host.panels.alerts.front().message.starts_with("Created a new Boats.strings for language pt-BR at:"));
+}
+
 TEST_F(XcodeSaving, WhatIsUndoneAfterASaveIsSavedAgain) {
   addStrings("de.lproj/Boats.strings", "\"a\" = \"1\";\n");
   open();
