@@ -97,7 +97,8 @@ AlertRequest ProtectedSave::questionAbout(const SaveRefusal& refusal) const {
   question.defaultButton = localized("Cancel");
   question.alternateButton = localized("Save Anyway");
   for (const SaveRefusal::Place& place : refusal.places) {
-    question.informativeText += place.file.path() + "\n" + place.sentence + "\n";
+    question.informativeText += place.file.path() + "\n";
+    if (refusal.kind != SaveRefusal::Kind::Changed) question.informativeText += place.sentence + "\n";
   }
   if (refusal.kind == SaveRefusal::Kind::Changed) {
     question.message = localized("Files were changed by another program. Overwrite them?");

@@ -239,6 +239,8 @@ class OpeningTest : public DesktopFixture {
   }
 
   void closesTheSheetThatWasLeftWithItsButton() {
+    const QString german = QStringLiteral("de.lproj/Localizable.strings");
+    const QByteArray small = demo().read(german);
     demo().growBy(20000);
     startWith(demo().directory());
     waitForPhaseTwo();
@@ -254,6 +256,8 @@ class OpeningTest : public DesktopFixture {
     QVERIFY(!project().opened());
     QCOMPARE(strings().model()->rowCount(), 0);
     QVERIFY(isEnabled(CommandId::Open));
+    demo().write(german, small);
+    demo().write(QStringLiteral("More.m"), "");
     openDemo();
     project().parseProject();
     QCOMPARE(inSheet<QPushButton>("cancelButton").text(), QStringLiteral("Cancel"));

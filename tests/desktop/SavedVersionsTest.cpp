@@ -75,7 +75,7 @@ class SavedVersionsTest : public DesktopFixture {
     openVersions();
     QCOMPARE(in<QTreeWidget>("savesTable").topLevelItemCount(), 1);
     QCOMPARE(row("savesTable", 0).mid(1),
-             QStringList({QStringLiteral("window"), QStringLiteral("3"), QStringLiteral("10"), QStringLiteral("8"),
+             QStringList({QStringLiteral("Window"), QStringLiteral("3"), QStringLiteral("10"), QStringLiteral("8"),
                           QStringLiteral("2")}));
     QCOMPARE(row("savedFilesTable", 1),
              QStringList({QStringLiteral("de"), m_german, QStringLiteral("5"), QStringLiteral("3"), QStringLiteral("2"),

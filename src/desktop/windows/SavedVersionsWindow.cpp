@@ -82,7 +82,7 @@ SavedVersionsWindow::SavedVersionsWindow(SaveRestorer& restorer, const Bundle& b
   setObjectName(QStringLiteral("SavedVersionsWindow"));
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(text("Saved Versions"));
-  resize(760, 520);
+  resize(880, 520);
   layOut();
   connect(m_saves, &QTreeWidget::currentItemChanged, this, [this] { showFiles(); });
   connect(m_files, &QTreeWidget::itemChanged, this, [this] { m_restore->setEnabled(!chosenFiles().empty()); });
@@ -143,7 +143,7 @@ void SavedVersionsWindow::addSave(const SavedVersion& version) {
   const EntryCounts counts = entryCounts(version.manifest);
   auto* row = new QTreeWidgetItem(m_saves);
   row->setText(kWhen, timeOf(version));
-  const QString by = shownText(version.manifest.command);
+  const QString by = version.manifest.command == "window" ? text("Window") : shownText(version.manifest.command);
   row->setText(kBy, version.isFinished ? by : text("cut short: %@").replace(QLatin1String("%@"), by));
   row->setText(kFiles, QLocale().toString(static_cast<qulonglong>(version.manifest.files.size())));
   row->setText(kSaveBefore, countOr(counts.before));
