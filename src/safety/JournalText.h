@@ -1,10 +1,10 @@
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 namespace glossmill {
@@ -18,9 +18,10 @@ struct JournalEdit {
   std::optional<std::string> before;
   std::optional<std::string> after;
 
-  auto operator<=>(const JournalEdit&) const = default;
-  bool isSamePlace(const JournalEdit& other) const {
-    return key == other.key && language == other.language && table == other.table;
+  bool operator==(const JournalEdit&) const = default;
+  bool operator<(const JournalEdit& other) const {
+    return std::tie(time, table, key, language, before, after) <
+           std::tie(other.time, other.table, other.key, other.language, other.before, other.after);
   }
 };
 
