@@ -10,18 +10,18 @@ namespace glossmill {
 
 namespace {
 
-constexpr std::string_view kEdit = "edit";
-constexpr std::string_view kNone = "%-";  // no percent form looks so
-constexpr std::string_view kEnd = ".";    // tells a whole line from one that was cut off
-constexpr std::size_t kWords = 8;
+constexpr std::string_view kEditWord = "edit";
+constexpr std::string_view kNoTextWord = "%-";  // no percent form looks so
+constexpr std::string_view kEndWord = ".";      // tells a whole line from one that was cut off
+constexpr std::size_t kJournalWords = 8;
 
 std::string formOf(const std::optional<std::string>& text) {
-  return text ? percentForm(*text) : std::string(kNone);
+  return text ? percentForm(*text) : std::string(kNoTextWord);
 }
 
 /// False when the word is neither a text nor none.
 bool takeText(std::string_view word, std::optional<std::string>& text) {
-  if (word == kNone) return true;
+  if (word == kNoTextWord) return true;
   text = fromPercentForm(word);
   return text.has_value();
 }
@@ -40,7 +40,7 @@ bool takeTime(std::string_view word, std::int64_t& time) {
 
 std::optional<JournalEdit> editOf(std::string_view line) {
   const std::vector<std::string_view> words = split(line, ' ');
-  if (words.size() != kWords || words.front() != kEdit || words.back() != kEnd) return std::nullopt;
+  if (words.size() != kJournalWords || words.front() != kEditWord || words.back() != kEndWord) return std::nullopt;
   JournalEdit edit;
   const bool isWhole = takeTime(words[1], edit.time) && takeText(words[2], edit.table) &&
                        takeText(words[3], edit.key) && takeText(words[4], edit.language) &&
@@ -51,13 +51,13 @@ std::optional<JournalEdit> editOf(std::string_view line) {
 }  // namespace
 
 std::string journalLine(const JournalEdit& edit) {
-  std::string line(kEdit);
+  std::string line(kEditWord);
   for (const std::string& word : {std::to_string(edit.time), percentForm(edit.table), percentForm(edit.key),
                                   percentForm(edit.language), formOf(edit.before), formOf(edit.after)}) {
     line += ' ';
     line += word;
   }
-  return line + ' ' + std::string(kEnd) + '\n';
+  return line + ' ' + std::string(kEndWord) + '\n';
 }
 
 std::vector<JournalEdit> readJournal(std::string_view text) {
