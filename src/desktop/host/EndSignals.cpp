@@ -11,14 +11,14 @@ namespace glossmill {
 
 namespace {
 
-enum PipeEnd { kReadingEnd, kWritingEnd };
+enum PipeEnd { ReadingEnd, WritingEnd };
 
 int pipeOfSignals[2] = {-1, -1};
 
 /// The only thing that is safe here: the event loop does the rest.
 void passOn(int signal) {
   const auto number = static_cast<unsigned char>(signal);
-  if (write(pipeOfSignals[kWritingEnd], &number, 1) != 1) _exit(128 + signal);
+  if (write(pipeOfSignals[WritingEnd], &number, 1) != 1) _exit(128 + signal);
 }
 
 /// A signal that whoever started the program ignores, as nohup does, stays ignored.
@@ -35,14 +35,14 @@ void watch(int signal) {
 
 EndSignals::EndSignals(std::function<void(int signal)> arrived) : m_arrived(std::move(arrived)) {
   if (pipe2(pipeOfSignals, O_CLOEXEC | O_NONBLOCK) != 0) return;
-  auto* notifier = new QSocketNotifier(pipeOfSignals[kReadingEnd], QSocketNotifier::Read, this);
+  auto* notifier = new QSocketNotifier(pipeOfSignals[ReadingEnd], QSocketNotifier::Read, this);
   connect(notifier, &QSocketNotifier::activated, this, [this] { receive(); });
   for (const int signal : {SIGTERM, SIGHUP, SIGINT}) watch(signal);
 }
 
 void EndSignals::receive() {
   unsigned char number = 0;
-  if (read(pipeOfSignals[kReadingEnd], &number, 1) == 1) m_arrived(number);
+  if (read(pipeOfSignals[ReadingEnd], &number, 1) == 1) m_arrived(number);
 }
 
 }  // namespace glossmill

@@ -18,8 +18,8 @@ namespace glossmill {
 
 namespace {
 
-enum SaveColumn { kWhen, kBy, kFiles, kSaveBefore, kSaveAfter, kSaveNotWritten };
-enum FileColumn { kLanguage, kFile, kFileBefore, kFileAfter, kFileNotWritten, kNow };
+enum SaveColumn { SaveTime, SavedBy, SavedFiles, SaveBefore, SaveAfter, SaveNotWritten };
+enum FileColumn { FileLanguage, FileName, FileBefore, FileAfter, FileNotWritten, FileNow };
 
 QTreeWidget* table(const char* name, const QString& title, const QStringList& columns, int stretched) {
   auto* table = new QTreeWidget;
@@ -70,11 +70,11 @@ SavedVersionsWindow::SavedVersionsWindow(SaveRestorer& restorer, const Bundle& b
       m_saves(table("savesTable", text("Saves"),
                     {text("Time"), text("By"), text("Files"), text("Entries before"), text("Entries after"),
                      text("Not written again")},
-                    kBy)),
+                    SavedBy)),
       m_files(table("savedFilesTable", text("Changed by this save"),
                     {text("Language"), text("File"), text("Entries before"), text("Entries after"),
                      text("Not written again"), text("Now")},
-                    kFile)),
+                    FileName)),
       m_empty(
           new QLabel(text("No save of this project is kept yet. From the next one on, each can be taken back here."))),
       m_restore(new QPushButton(text("Restore"))),
@@ -142,14 +142,14 @@ void SavedVersionsWindow::fillSaves() {
 void SavedVersionsWindow::addSave(const SavedVersion& version) {
   const EntryCounts counts = entryCounts(version.manifest);
   auto* row = new QTreeWidgetItem(m_saves);
-  row->setText(kWhen, timeOf(version));
+  row->setText(SaveTime, timeOf(version));
   const QString by = version.manifest.command == "window" ? text("Window") : shownText(version.manifest.command);
-  row->setText(kBy, version.isFinished ? by : text("cut short: %@").replace(QLatin1String("%@"), by));
-  row->setText(kFiles, QLocale().toString(static_cast<qulonglong>(version.manifest.files.size())));
-  row->setText(kSaveBefore, countOr(counts.before));
-  row->setText(kSaveAfter, countOr(counts.after));
-  row->setText(kSaveNotWritten, countOr(counts.notWritten()));
-  alignNumbers(*row, {kFiles, kSaveBefore, kSaveAfter, kSaveNotWritten});
+  row->setText(SavedBy, version.isFinished ? by : text("cut short: %@").replace(QLatin1String("%@"), by));
+  row->setText(SavedFiles, QLocale().toString(static_cast<qulonglong>(version.manifest.files.size())));
+  row->setText(SaveBefore, countOr(counts.before));
+  row->setText(SaveAfter, countOr(counts.after));
+  row->setText(SaveNotWritten, countOr(counts.notWritten()));
+  alignNumbers(*row, {SavedFiles, SaveBefore, SaveAfter, SaveNotWritten});
 }
 
 const SavedVersion* SavedVersionsWindow::selected() const {
@@ -179,16 +179,16 @@ void SavedVersionsWindow::addFile(const SavedVersion& version, const SavedFile& 
   const FileState state = m_restorer.stateNow(file);
   const bool isBack = state == FileState::Before;
   auto* row = new QTreeWidgetItem(m_files);
-  row->setText(kLanguage, shownText(file.language));
-  row->setCheckState(kLanguage, isBack ? Qt::Unchecked : Qt::Checked);
-  row->setText(kFile, shownText(shownPath(version.manifest.project, file.file)));
-  row->setText(kFileBefore, file.before ? countOr(counts.before) : text("no file"));
-  row->setText(kFileAfter, file.after ? countOr(counts.after) : text("no file"));
-  row->setText(kFileNotWritten, countOr(counts.notWritten()));
-  row->setText(kNow, isBack                      ? text("as before this save")
-                     : state == FileState::After ? text("as this save wrote it")
-                                                 : text("edited since"));
-  alignNumbers(*row, {kFileBefore, kFileAfter, kFileNotWritten});
+  row->setText(FileLanguage, shownText(file.language));
+  row->setCheckState(FileLanguage, isBack ? Qt::Unchecked : Qt::Checked);
+  row->setText(FileName, shownText(shownPath(version.manifest.project, file.file)));
+  row->setText(FileBefore, file.before ? countOr(counts.before) : text("no file"));
+  row->setText(FileAfter, file.after ? countOr(counts.after) : text("no file"));
+  row->setText(FileNotWritten, countOr(counts.notWritten()));
+  row->setText(FileNow, isBack                      ? text("as before this save")
+                        : state == FileState::After ? text("as this save wrote it")
+                                                    : text("edited since"));
+  alignNumbers(*row, {FileBefore, FileAfter, FileNotWritten});
   if (isBack) row->setFlags(row->flags() & ~Qt::ItemIsUserCheckable);
 }
 
@@ -196,7 +196,7 @@ std::vector<FileUrl> SavedVersionsWindow::chosenFiles() const {
   std::vector<FileUrl> chosen;
   const SavedVersion* version = selected();
   for (int row = 0; version && row < m_files->topLevelItemCount(); ++row) {
-    if (m_files->topLevelItem(row)->checkState(kLanguage) != Qt::Checked) continue;
+    if (m_files->topLevelItem(row)->checkState(FileLanguage) != Qt::Checked) continue;
     chosen.push_back(version->manifest.files[static_cast<std::size_t>(row)].file);
   }
   return chosen;

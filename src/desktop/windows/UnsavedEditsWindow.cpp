@@ -15,7 +15,7 @@ namespace glossmill {
 
 namespace {
 
-enum EditColumn { kEditKey, kEditLanguage, kTextBefore, kTextUnsaved, kTextNow, kEditTime, kEditNote };
+enum EditColumn { EditKey, EditLanguage, TextBefore, TextUnsaved, TextNow, EditTime, EditNote };
 
 using Fit = RecoverableEdit::Fit;
 
@@ -78,14 +78,14 @@ void UnsavedEditsWindow::layOut() {
 
 void UnsavedEditsWindow::addRow(const RecoverableEdit& edit) {
   auto* row = new QTreeWidgetItem(m_table);
-  row->setText(kEditKey, cellText(edit.edit.key));
-  row->setText(kEditLanguage, cellText(edit.edit.language));
-  row->setText(kTextBefore, textOr(edit.edit.before));
-  row->setText(kTextUnsaved, textOr(edit.edit.after));
-  row->setText(kTextNow, textOr(edit.now));
-  row->setText(kEditTime, QLocale().toString(QDateTime::fromSecsSinceEpoch(edit.edit.time), QLocale::ShortFormat));
-  row->setText(kEditNote, noteOf(edit));
-  row->setCheckState(kEditKey, edit.fit == Fit::Applies ? Qt::Checked : Qt::Unchecked);
+  row->setText(EditKey, cellText(edit.edit.key));
+  row->setText(EditLanguage, cellText(edit.edit.language));
+  row->setText(TextBefore, textOr(edit.edit.before));
+  row->setText(TextUnsaved, textOr(edit.edit.after));
+  row->setText(TextNow, textOr(edit.now));
+  row->setText(EditTime, QLocale().toString(QDateTime::fromSecsSinceEpoch(edit.edit.time), QLocale::ShortFormat));
+  row->setText(EditNote, noteOf(edit));
+  row->setCheckState(EditKey, edit.fit == Fit::Applies ? Qt::Checked : Qt::Unchecked);
   if (!edit.canBeApplied()) row->setFlags(row->flags() & ~Qt::ItemIsUserCheckable);
 }
 
@@ -110,7 +110,7 @@ QString UnsavedEditsWindow::noteOf(const RecoverableEdit& edit) const {
 std::vector<RecoverableEdit> UnsavedEditsWindow::chosen() const {
   std::vector<RecoverableEdit> chosen;
   for (int row = 0; row < m_table->topLevelItemCount(); ++row) {
-    if (m_table->topLevelItem(row)->checkState(kEditKey) != Qt::Checked) continue;
+    if (m_table->topLevelItem(row)->checkState(EditKey) != Qt::Checked) continue;
     chosen.push_back(m_edits[static_cast<std::size_t>(row)]);
   }
   return chosen;
