@@ -12,7 +12,7 @@ namespace {
 
 using Kind = Argument::Kind;
 
-constexpr std::size_t kExcerptUnits = 60;
+constexpr std::size_t kCallExcerptUnits = 60;
 
 template <typename Item>
 void sortAndPlace(std::string_view text, std::vector<Item>& items) {
@@ -212,7 +212,7 @@ void CallInterpreter::report(const Call& call, CallProblem kind, std::string tex
 
 /// The beginning of the argument, on one line.
 std::string CallInterpreter::excerptOf(const Argument& argument) const {
-  constexpr std::size_t kMostBytes = 8 * kExcerptUnits;
+  constexpr std::size_t kMostBytes = 8 * kCallExcerptUnits;
   const std::size_t length = std::min(argument.end - argument.begin, kMostBytes);
   std::string_view source = m_text.substr(argument.begin, length);
   source = source.substr(0, validUtf8Prefix(source));
@@ -221,7 +221,7 @@ std::string CallInterpreter::excerptOf(const Argument& argument) const {
     const bool isSpace = isBlank(byte) || isLineEnd(byte);
     if (!isSpace || !excerpt.ends_with(' ')) excerpt += isSpace ? ' ' : byte;
   }
-  return clipUtf16(excerpt, kExcerptUnits);
+  return clipUtf16(excerpt, kCallExcerptUnits);
 }
 
 SourceCalls CallInterpreter::finish() {
