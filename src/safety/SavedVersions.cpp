@@ -106,6 +106,10 @@ Outcome SavedVersions::finish(const std::string& id) {
 Outcome SavedVersions::drop(const std::string& id) {
   const Result<FileUrl> place = directoryOf(id);
   if (!place) return place.error();
+  for (const FileUrl& temporary : m_disk.abandonedWrites(place.value())) {
+    const Outcome removed = m_disk.remove(temporary);
+    if (!removed) return removed;
+  }
   for (const char* name : {kUnfinished, kFinished}) {
     const Outcome removed = m_disk.remove(place.value().appending(name));
     if (!removed) return removed;

@@ -26,6 +26,7 @@ Outcome removeTemporaries(SaveDisk& disk, const SaveManifest& manifest) {
 /// Those that were made for the save and are empty still.
 void removeDirectories(Files& files, SaveDisk& disk, const SaveManifest& manifest) {
   for (auto directory = manifest.directories.rbegin(); directory != manifest.directories.rend(); ++directory) {
+    for (const FileUrl& temporary : disk.abandonedWrites(*directory)) static_cast<void>(disk.remove(temporary));
     const auto entries = files.list(*directory);
     if (entries && entries.value().empty()) static_cast<void>(disk.remove(*directory));
   }
