@@ -91,7 +91,10 @@ void AppDelegate::nextLanguage() {
 }
 
 void AppDelegate::openProjectWindow() {
-  if (!m_projectWindowController) m_projectWindowController = std::make_unique<ProjectWindowController>(m_host, *this);
+  if (!m_projectWindowController) {
+    m_projectWindowController = std::make_unique<ProjectWindowController>(m_host, *this);
+    m_projectWindowController->setSettingsReader(m_settingsReader);
+  }
   m_projectWindowController->showWindow();
 }
 

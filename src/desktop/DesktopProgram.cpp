@@ -4,6 +4,7 @@
 
 #include "desktop/host/QtText.h"
 #include "desktop/windows/HelpWindows.h"
+#include "settings/SettledOptions.h"
 
 namespace glossmill {
 
@@ -24,6 +25,9 @@ DesktopProgram::DesktopProgram(OwnTexts texts)
   options.command = "window";
   options.version = fromQt(QApplication::applicationVersion());
   m_delegate.setProjectOptions(options);
+  m_delegate.setSettingsReader([this](const FileUrl& directory, const ProjectOptions& wanted) {
+    return settledOptions(m_files, directory, wanted);
+  });
 }
 
 /// Jobs use the project, so they end before it goes.

@@ -108,6 +108,10 @@ class ProjectWindowController : public ProjectContext,
   bool openProject(const FileUrl& start, const ProjectOptions& options = {});
   /// The same for a directory that is known, without the panel.
   bool openProjectAt(const FileUrl& directory, const ProjectOptions& options = {});
+  /// Asked before each scan for what the project itself says of how it is to be read. An error is told in an alert, and
+  /// nothing is read.
+  using SettingsReader = std::function<Result<ProjectOptions>(const FileUrl& directory, const ProjectOptions& options)>;
+  void setSettingsReader(SettingsReader reader) { m_settingsReader = std::move(reader); }
   /// By which rules, and how else, the project was opened.
   const ProjectOptions& projectOptions() const { return m_options; }
   /// Reads the open project anew, selects again what was selected, and applies the edits again that no save wrote, but
@@ -274,7 +278,7 @@ class ProjectWindowController : public ProjectContext,
   void onMainThread(const std::function<void()>& work) { m_host.threads.performOnMainThreadAndWait(work); }
   void runOkAlert(const std::string& message, std::optional<AlertRequest::Cause> cause = std::nullopt);
 
-  void startScan(const FileUrl& directory, const ProjectOptions& options);
+  bool startScan(const FileUrl& directory, const ProjectOptions& options);
   void beginLongJob(std::string_view titleKey);
   void beginCountingJob(std::string_view titleKey);
   void installResult(ScanRun& scan);
@@ -343,6 +347,7 @@ class ProjectWindowController : public ProjectContext,
 
   FileUrl m_projectDirectory;
   ProjectOptions m_options;
+  SettingsReader m_settingsReader;
   const ProjectRules* m_rules;  ///< those of the options
   IsoTable m_iso639Dict;
   ScanMemory m_scanMemory;  ///< written by phase one

@@ -15,22 +15,26 @@ bool ProjectWindowController::openProject(const FileUrl& start, const ProjectOpt
   request.directory = start;
   const std::optional<FileUrl> chosen = m_host.panels.runOpenPanel(request);
   if (!chosen) return false;
-  startScan(*chosen, options);
-  return true;
+  return startScan(*chosen, options);
 }
 
 bool ProjectWindowController::openProjectAt(const FileUrl& directory, const ProjectOptions& options) {
   if (!closeProject()) return false;
-  startScan(directory, options);
-  return true;
+  return startScan(directory, options);
 }
 
-void ProjectWindowController::startScan(const FileUrl& directory, const ProjectOptions& options) {
+bool ProjectWindowController::startScan(const FileUrl& directory, const ProjectOptions& options) {
+  const Result<ProjectOptions> settled = m_settingsReader ? m_settingsReader(directory, options) : options;
+  if (!settled) {
+    runOkAlert(settled.error().sentence);
+    return false;
+  }
   m_projectDirectory = directory;
-  m_options = options;
-  m_rules = &projectRules(options.rules);
+  m_options = settled.value();
+  m_rules = &projectRules(m_options.rules);
   parseProject();
   m_window.outlets.window->setTitle(m_projectDirectory.lastPathComponentWithoutExtension());
+  return true;
 }
 
 bool ProjectWindowController::parseProject() {
