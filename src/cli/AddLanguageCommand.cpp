@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "cli/DisplayText.h"
-#include "cli/Paths.h"
 #include "cli/ProjectSession.h"
 #include "cli/TableChoice.h"
+#include "host/Paths.h"
 #include "project/NewLanguageDirectories.h"
 
 namespace glossmill {

@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "cli/LanguageChoice.h"
-#include "cli/Paths.h"
 #include "cli/TableChoice.h"
+#include "host/Paths.h"
 
 namespace glossmill {
 

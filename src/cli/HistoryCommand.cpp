@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "cli/DisplayText.h"
-#include "cli/Paths.h"
 #include "cli/TextTable.h"
+#include "host/Paths.h"
 #include "host/PosixFiles.h"
 #include "host/PosixSaveDisk.h"
 #include "safety/EntryCounts.h"

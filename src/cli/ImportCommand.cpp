@@ -4,9 +4,9 @@
 
 #include "cli/DisplayText.h"
 #include "cli/LanguageChoice.h"
-#include "cli/Paths.h"
 #include "cli/TableChoice.h"
 #include "cli/TextTable.h"
+#include "host/Paths.h"
 
 namespace glossmill {
 

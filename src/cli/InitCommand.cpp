@@ -5,8 +5,8 @@
 #include <unordered_set>
 
 #include "cli/DisplayText.h"
-#include "cli/Paths.h"
 #include "cli/ProjectSession.h"
+#include "host/Paths.h"
 #include "platform/ReadText.h"
 #include "settings/ProjectSettings.h"
 #include "xcode/RoutineProposals.h"

@@ -1,6 +1,6 @@
 #include "cli/JsonValues.h"
 
-#include "cli/Paths.h"
+#include "host/Paths.h"
 
 namespace glossmill {
 

@@ -1,8 +1,8 @@
 #include "cli/LanguageTable.h"
 
 #include "cli/DisplayText.h"
-#include "cli/Paths.h"
 #include "cli/TextTable.h"
+#include "host/Paths.h"
 #include "model/PercentDone.h"
 
 namespace glossmill {

@@ -6,8 +6,8 @@
 
 #include "cli/DisplayText.h"
 #include "cli/JsonValues.h"
-#include "cli/Paths.h"
 #include "cli/TextTable.h"
+#include "host/Paths.h"
 #include "text/PrintableText.h"
 
 namespace glossmill {

@@ -2,8 +2,8 @@
 
 #include "cli/DisplayText.h"
 #include "cli/Interrupt.h"
-#include "cli/Paths.h"
 #include "cli/WritingReport.h"
+#include "host/Paths.h"
 #include "safety/UnfinishedSave.h"
 
 namespace glossmill {
@@ -24,6 +24,13 @@ Outcome usableDirectory(Files& files, const FileUrl& directory) {
 
 KeptLog keptLog(const ProjectSession::Options& options) {
   return options.keepsLogs ? KeptLog::Whole : KeptLog::Nothing;
+}
+
+ReadingWish wishOf(const ProjectChoice& typed) {
+  ReadingWish wish;
+  if (!typed.rules.empty()) wish.rules = typed.rules == "xcode" ? RuleSet::Xcode : RuleSet::Classic;
+  wish.packages = typed.packages;
+  return wish;
 }
 
 /// The one delegate of the program, which ends with it.
@@ -65,7 +72,7 @@ ExitCode ProjectSession::open(const ProjectChoice& choice) {
     m_console.error("cannot open " + inQuotes(choice.directory) + ": " + usable.error().sentence);
     return ExitCode::Unusable;
   }
-  const Result<ReadingChoice> reading = readingChoice(m_files, url, choice);
+  const Result<ReadingChoice> reading = readingChoice(m_files, url, wishOf(choice), absoluteUrl);
   if (!reading) {
     m_console.error(reading.error().sentence);
     return ExitCode::Unusable;

@@ -10,10 +10,10 @@
 #include "cli/ExitCode.h"
 #include "cli/JsonWriter.h"
 #include "cli/ProjectChoice.h"
-#include "cli/ReadingChoice.h"
 #include "cli/ReportingFiles.h"
 #include "cli/WritingOptions.h"
 #include "host/HeadlessHost.h"
+#include "settings/ReadingChoice.h"
 
 namespace glossmill {
 

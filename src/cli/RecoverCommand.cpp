@@ -4,8 +4,8 @@
 #include <memory>
 
 #include "cli/DisplayText.h"
-#include "cli/Paths.h"
 #include "cli/ProjectSession.h"
+#include "host/Paths.h"
 #include "safety/SavedVersions.h"
 #include "text/PrintableText.h"
 

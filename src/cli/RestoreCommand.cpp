@@ -7,9 +7,9 @@
 #include <optional>
 
 #include "cli/DisplayText.h"
-#include "cli/Paths.h"
 #include "cli/WritingOptions.h"
 #include "cli/WritingReport.h"
+#include "host/Paths.h"
 #include "safety/Restore.h"
 #include "safety/UnfinishedSave.h"
 #include "text/PrintableText.h"

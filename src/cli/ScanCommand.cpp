@@ -4,10 +4,10 @@
 
 #include "cli/LanguageTable.h"
 #include "cli/LeftOut.h"
-#include "cli/Paths.h"
 #include "cli/ProjectJson.h"
 #include "cli/ProjectSession.h"
 #include "cli/TextTable.h"
+#include "host/Paths.h"
 
 namespace glossmill {
 

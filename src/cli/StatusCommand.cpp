@@ -6,8 +6,8 @@
 #include "cli/JsonValues.h"
 #include "cli/LanguageChoice.h"
 #include "cli/LanguageTable.h"
-#include "cli/Paths.h"
 #include "cli/TableChoice.h"
+#include "host/Paths.h"
 #include "text/PrintableText.h"
 
 namespace glossmill {

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "cli/DisplayText.h"
-#include "cli/Paths.h"
+#include "host/Paths.h"
 
 namespace glossmill {
 

@@ -5,8 +5,8 @@
 #include <chrono>
 
 #include "cli/DisplayText.h"
-#include "cli/Paths.h"
 #include "cli/TypedCommand.h"
+#include "host/Paths.h"
 
 namespace glossmill {
 

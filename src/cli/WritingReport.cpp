@@ -1,8 +1,8 @@
 #include "cli/WritingReport.h"
 
 #include "cli/DisplayText.h"
-#include "cli/Paths.h"
 #include "cli/WritingOptions.h"
+#include "host/Paths.h"
 #include "text/PrintableText.h"
 
 namespace glossmill {

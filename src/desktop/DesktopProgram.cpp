@@ -4,9 +4,26 @@
 
 #include "desktop/host/QtText.h"
 #include "desktop/windows/HelpWindows.h"
-#include "settings/SettledOptions.h"
+#include "host/Paths.h"
+#include "settings/ReadingChoice.h"
 
 namespace glossmill {
+
+namespace {
+
+/// The options' rules are those of a project that does not say which are its own.
+Result<ProjectWindowController::Opening> settledOpening(FileReading& files,
+                                                        const ProjectWindowController::Opening& wanted) {
+  const ReadingWish wish = {{}, {}, wanted.options.rules};
+  Result<ReadingChoice> choice = readingChoice(files, wanted.directory, wish, absoluteUrl);
+  if (!choice) return choice.error();
+  ProjectWindowController::Opening settled = {choice.value().directory, wanted.options};
+  settled.options.rules = choice.value().rules;
+  settled.options.xcode = std::move(choice.value().xcode);
+  return settled;
+}
+
+}  // namespace
 
 DesktopProgram::DesktopProgram(OwnTexts texts)
     : m_bundle(std::move(texts)),
@@ -25,9 +42,8 @@ DesktopProgram::DesktopProgram(OwnTexts texts)
   options.command = "window";
   options.version = fromQt(QApplication::applicationVersion());
   m_delegate.setProjectOptions(options);
-  m_delegate.setSettingsReader([this](const FileUrl& directory, const ProjectOptions& wanted) {
-    return settledOptions(m_files, directory, wanted);
-  });
+  m_delegate.setSettingsReader(
+      [this](const ProjectWindowController::Opening& wanted) { return settledOpening(m_files, wanted); });
 }
 
 /// Jobs use the project, so they end before it goes.

@@ -108,9 +108,14 @@ class ProjectWindowController : public ProjectContext,
   bool openProject(const FileUrl& start, const ProjectOptions& options = {});
   /// The same for a directory that is known, without the panel.
   bool openProjectAt(const FileUrl& directory, const ProjectOptions& options = {});
+  /// A directory, and how it is read.
+  struct Opening {
+    FileUrl directory;
+    ProjectOptions options;
+  };
   /// Asked before each scan for what the project itself says of how it is to be read. An error is told in an alert, and
   /// nothing is read.
-  using SettingsReader = std::function<Result<ProjectOptions>(const FileUrl& directory, const ProjectOptions& options)>;
+  using SettingsReader = std::function<Result<Opening>(const Opening& wanted)>;
   void setSettingsReader(SettingsReader reader) { m_settingsReader = std::move(reader); }
   /// By which rules, and how else, the project was opened.
   const ProjectOptions& projectOptions() const { return m_options; }

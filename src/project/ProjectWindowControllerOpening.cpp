@@ -24,13 +24,14 @@ bool ProjectWindowController::openProjectAt(const FileUrl& directory, const Proj
 }
 
 bool ProjectWindowController::startScan(const FileUrl& directory, const ProjectOptions& options) {
-  const Result<ProjectOptions> settled = m_settingsReader ? m_settingsReader(directory, options) : options;
+  const Opening wanted{directory, options};
+  const Result<Opening> settled = m_settingsReader ? m_settingsReader(wanted) : wanted;
   if (!settled) {
     runOkAlert(settled.error().sentence);
     return false;
   }
-  m_projectDirectory = directory;
-  m_options = settled.value();
+  m_projectDirectory = settled.value().directory;
+  m_options = settled.value().options;
   m_rules = &projectRules(m_options.rules);
   parseProject();
   m_window.outlets.window->setTitle(m_projectDirectory.lastPathComponentWithoutExtension());

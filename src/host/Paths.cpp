@@ -1,4 +1,4 @@
-#include "cli/Paths.h"
+#include "host/Paths.h"
 
 #include <algorithm>
 #include <filesystem>
