@@ -77,6 +77,7 @@ ExitCode ProjectSession::open(const ProjectChoice& choice) {
     m_console.error(reading.error().sentence);
     return ExitCode::Unusable;
   }
+  m_checks = reading.value().checks;
   return openAt(reading.value().directory, reading.value());
 }
 

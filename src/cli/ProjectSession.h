@@ -48,6 +48,8 @@ class ProjectSession {
   ProjectWindowController& project() { return *m_delegate->projectWindowController(); }
   const ProjectWindowController& project() const { return *m_delegate->projectWindowController(); }
   ReportingFiles& files() { return m_files; }
+  /// What the opened project says of its checks.
+  const CheckSettings& checks() const { return m_checks; }
   Console& console() const { return m_console; }
 
   // Empty unless the session was told to keep them. The log is null as long as nothing was logged.
@@ -79,6 +81,7 @@ class ProjectSession {
   HeadlessHost m_host;
   ReportingFiles m_files;
   std::optional<ProjectLock> m_lock;
+  CheckSettings m_checks;
   std::string m_countsText;
   Json m_counts = Json::object();
   /// Never deleted: giving a large project's memory back piece by piece would take longer than ending the program does.

@@ -32,6 +32,7 @@ Result<ReadingChoice> readingChoice(FileReading& files, const FileUrl& opened, c
   ReadingChoice choice;
   choice.rules = wish.rules ? *wish.rules : settings.value().rules.value_or(wish.otherwiseRules);
   choice.directory = choice.rules == RuleSet::Xcode ? directory : opened;
+  choice.checks.sourceLanguage = settings.value().sourceLanguage;
   if (choice.rules == RuleSet::Classic) return choice;
   Result<std::vector<FileUrl>> packages =
       packagesOf(files, directory, wish.packages.empty() ? settings.value().packages : wish.packages, absolute);

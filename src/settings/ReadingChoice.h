@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "checks/CheckSettings.h"
 #include "model/ProjectOptions.h"
 #include "platform/Files.h"
 
@@ -23,6 +24,7 @@ struct ReadingChoice {
   FileUrl directory;
   RuleSet rules = RuleSet::Classic;
   XcodeOptions xcode;
+  CheckSettings checks;
 };
 
 /// The absolute form of a path.
