@@ -1,5 +1,6 @@
 """Every call that reads fails once, in each way it can: nobody may lose a word by a read that was not whole."""
 
+import plans
 from project_state import State, lost_entries, torn_files
 
 ERRORS = {
@@ -9,18 +10,6 @@ ERRORS = {
     "read": ("EIO", "short", "end"),
     "stat": ("EIO", "EACCES"),
 }
-
-
-def calls_of(outcome, kind):
-    return sum(1 for line in outcome.trace if line.split(" ", 1)[0] == kind)
-
-
-def plans_for(outcome, every=1):
-    """A plan for each call and each effect; of each kind only every so many calls."""
-    for kind, effects in ERRORS.items():
-        for number in range(1, calls_of(outcome, kind) + 1, every):
-            for effect in effects:
-                yield f"{kind}:{number}:{effect}"
 
 
 def judged(bench, arguments, plan, undisturbed):
@@ -40,6 +29,4 @@ def judged(bench, arguments, plan, undisturbed):
 
 def trials(bench, arguments, every=1):
     """Yields (plan, what went wrong or None)."""
-    undisturbed = bench.run(arguments, traced=True)
-    for plan in plans_for(undisturbed, every):
-        yield plan, judged(bench, arguments, plan, undisturbed)
+    return plans.trials(bench, arguments, ERRORS, judged, every)

@@ -1,5 +1,6 @@
 """Every call that writes fails once, in each way it can: files are whole, and whoever ends with 0 has written all."""
 
+import plans
 from project_state import State, lost_entries, torn_files
 
 ERRORS = {
@@ -14,17 +15,6 @@ ERRORS = {
     "readlink": ("EIO", "EACCES"),
     "lock": ("EIO",),
 }
-
-
-def calls_of(outcome, kind):
-    return sum(1 for line in outcome.trace if line.split(" ", 1)[0] == kind)
-
-
-def plans_for(outcome, every=1):
-    for kind, effects in ERRORS.items():
-        for number in range(1, calls_of(outcome, kind) + 1, every):
-            for effect in effects:
-                yield f"{kind}:{number}:{effect}"
 
 
 def judged(bench, arguments, plan, undisturbed):
@@ -45,6 +35,4 @@ def judged(bench, arguments, plan, undisturbed):
 
 def trials(bench, arguments, every=1):
     """Yields (plan, what went wrong or None)."""
-    undisturbed = bench.run(arguments, traced=True)
-    for plan in plans_for(undisturbed, every):
-        yield plan, judged(bench, arguments, plan, undisturbed)
+    return plans.trials(bench, arguments, ERRORS, judged, every)

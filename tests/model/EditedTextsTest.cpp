@@ -7,19 +7,10 @@
 #include "model/EditedTexts.h"
 #include "model/LocalizeString.h"
 #include "support/LanguageCodes.h"
+#include "support/TableRecord.h"
 
 namespace glossmill {
 namespace {
-
-std::shared_ptr<LocalizeString> recordOf(const std::string& tableId, const std::string& key) {
-  auto table = std::make_shared<StringsTable>();
-  table->id = tableId;
-  auto record = std::make_shared<LocalizeString>();
-  record->setName(key);
-  record->setTableRow(std::make_unique<TableRow>());
-  record->tableRow()->table = std::move(table);
-  return record;
-}
 
 std::vector<std::string> keysOf(const EditedTexts& edited) {
   std::vector<std::string> keys;
@@ -28,8 +19,8 @@ std::vector<std::string> keysOf(const EditedTexts& edited) {
 }
 
 TEST(EditedTexts, HoldsEachOnceInTheOrderOfTheFirstEdits) {
-  const auto ebb = recordOf("a", "Ebb");
-  const auto tide = recordOf("a", "Tide");
+  const auto ebb = tableRecord("a", "Ebb");
+  const auto tide = tableRecord("a", "Tide");
   EditedTexts edited;
   for (const auto& record : {tide, ebb, tide}) edited.add(editOf(record, kGerman, "x"));
   edited.add(editOf(ebb, kFrench, "x"));
@@ -37,8 +28,8 @@ TEST(EditedTexts, HoldsEachOnceInTheOrderOfTheFirstEdits) {
 }
 
 TEST(EditedTexts, ThoseOfASavedFileGo) {
-  const auto ebb = recordOf("a", "Ebb");
-  const auto tide = recordOf("b", "Tide");
+  const auto ebb = tableRecord("a", "Ebb");
+  const auto tide = tableRecord("b", "Tide");
   EditedTexts edited;
   edited.add(editOf(ebb, kGerman, "x"));
   edited.add(editOf(ebb, kFrench, "x"));
