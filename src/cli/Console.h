@@ -6,7 +6,7 @@
 
 namespace glossmill {
 
-enum class Loudness { Quiet, Normal, Verbose };
+enum class Loudness { Quiet, Normal, Log, Verbose };
 enum class Paint { Plain, Heading, Good, Gap };
 
 /// Where a command speaks: data on standard output, everything else on standard error. Colour and the progress line
@@ -21,6 +21,8 @@ class Console {
   /// Messages before are Normal.
   void setLoudness(Loudness loudness) { m_loudness = loudness; }
   bool isQuiet() const { return m_loudness == Loudness::Quiet; }
+  /// Whether each line of the log is wanted, and not only what they come to.
+  bool showsLog() const { return m_loudness >= Loudness::Log; }
   bool isVerbose() const { return m_loudness == Loudness::Verbose; }
 
   /// Written as it is.

@@ -54,4 +54,10 @@ std::string counted(std::size_t count, std::string_view noun) {
   return std::to_string(count).append(" ").append(noun).append(count == 1 ? "" : "s");
 }
 
+std::string groupedNumber(std::size_t number) {
+  std::string text = std::to_string(number);
+  for (std::size_t behind = 3; behind < text.size(); behind += 4) text.insert(text.size() - behind, ",");
+  return text;
+}
+
 }  // namespace glossmill

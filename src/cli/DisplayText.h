@@ -14,4 +14,7 @@ std::string inQuotes(std::string_view text);
 /// "1 call", "2 calls".
 std::string counted(std::size_t count, std::string_view noun);
 
+/// "34,864"
+std::string groupedNumber(std::size_t number);
+
 }  // namespace glossmill

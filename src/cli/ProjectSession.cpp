@@ -2,6 +2,7 @@
 
 #include "cli/DisplayText.h"
 #include "cli/Interrupt.h"
+#include "cli/ScanNewsText.h"
 #include "cli/WritingReport.h"
 #include "host/Paths.h"
 #include "safety/UnfinishedSave.h"
@@ -54,7 +55,9 @@ ProjectSession::ProjectSession(Console& console, const Options& options)
 /// Where nobody wants a message, its text is not even made.
 void ProjectSession::passMessagesOn() {
   if (!m_console.isQuiet()) {
-    m_delegate->onLogText = [this](const Message& message) { m_console.message(message.shownText()); };
+    m_delegate->onLogText = [this](const Message& message) {
+      if (!m_sumsUpLog) m_console.message(message.shownText());
+    };
   }
   if (!m_options.keepsLogs && !m_console.isVerbose()) return;
   m_host.systemLog.onLine = [this](const Message& line) { takeSystemLogLine(line); };
@@ -66,6 +69,14 @@ Host ProjectSession::hostParts() {
 }
 
 ExitCode ProjectSession::open(const ProjectChoice& choice) {
+  const ExitCode opened = read(choice);
+  if (opened == ExitCode::Fine && !project().projectPackage() && !m_console.showsLog()) {
+    m_console.message("There is no Xcode project in the directory.");
+  }
+  return opened;
+}
+
+ExitCode ProjectSession::read(const ProjectChoice& choice) {
   const FileUrl url = absoluteUrl(choice.directory);
   const Outcome usable = usableDirectory(m_files, url);
   if (!usable) {
@@ -88,21 +99,29 @@ ExitCode ProjectSession::openAt(const FileUrl& directory, const ReadingChoice& r
   ProjectOptions options = projectOptions();
   options.rules = reading.rules;
   options.xcode = reading.xcode;
+  m_sumsUpLog = !m_console.showsLog();
   project().openProjectAt(directory, options);
   const ExitCode finished = finishJob();
-  if (finished == ExitCode::Fine && reading.rules == RuleSet::Classic) offerOtherRules();
-  return finished;
+  m_sumsUpLog = false;
+  if (finished != ExitCode::Fine) return finished;
+  sumUpScan();
+  if (reading.rules == RuleSet::Classic) offerOtherRules();
+  return ExitCode::Fine;
+}
+
+void ProjectSession::sumUpScan() {
+  if (m_console.isQuiet() || m_console.showsLog()) return;
+  std::string text = scanNewsText(project().scanReport().news(), project().projectDirectory());
+  if (text.empty()) return;
+  text.pop_back();
+  m_console.message(text);
 }
 
 /// Where the classic rules left out what others may take.
 void ProjectSession::offerOtherRules() {
   const ScanTotals totals = project().scanReport().totals();
   if (totals.rejectedCalls == 0 && totals.unmatchedEntries == 0) return;
-  const bool isOneEntry = totals.unmatchedEntries == 1;
-  m_console.message(counted(totals.rejectedCalls, "call") + (totals.rejectedCalls == 1 ? " was" : " were") +
-                    " rejected, and " + std::to_string(totals.unmatchedEntries) +
-                    (isOneEntry ? " entry matches" : " entries match") +
-                    " no call; xcode's rules may read them: --rules xcode");
+  m_console.message("What was left out may be read by xcode's rules: --rules xcode");
 }
 
 ProjectOptions ProjectSession::projectOptions() const {
@@ -146,7 +165,7 @@ void ProjectSession::mentionUnfinishedSave(const FileUrl& directory) {
 }
 
 ExitCode ProjectSession::openPackage(const ProjectChoice& choice, ExitCode without) {
-  const ExitCode opened = open(choice);
+  const ExitCode opened = read(choice);
   if (opened != ExitCode::Fine || project().projectPackage()) return opened;
   m_console.error("there is no Xcode project in " + inQuotes(project().projectDirectory().path()));
   return without;

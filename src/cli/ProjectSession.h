@@ -63,6 +63,8 @@ class ProjectSession {
 
  private:
   Host hostParts();
+  ExitCode read(const ProjectChoice& choice);
+  void sumUpScan();
   void offerOtherRules();
   ExitCode openAt(const FileUrl& directory, const ReadingChoice& reading);
   ProjectOptions projectOptions() const;
@@ -82,6 +84,7 @@ class ProjectSession {
   ReportingFiles m_files;
   std::optional<ProjectLock> m_lock;
   CheckSettings m_checks;
+  bool m_sumsUpLog = false;  ///< what is logged now is told as a sum, later
   std::string m_countsText;
   Json m_counts = Json::object();
   /// Never deleted: giving a large project's memory back piece by piece would take longer than ending the program does.

@@ -7,7 +7,8 @@ namespace glossmill {
 
 Loudness TypedCommand::loudness() const {
   if (quiet) return Loudness::Quiet;
-  return verbose ? Loudness::Verbose : Loudness::Normal;
+  if (verbose) return Loudness::Verbose;
+  return log ? Loudness::Log : Loudness::Normal;
 }
 
 CLI::App& addCommand(CLI::App& program, TypedCommand& typed, const CommandTexts& texts,
@@ -23,7 +24,10 @@ CLI::App& addCommand(CLI::App& program, TypedCommand& typed, const CommandTexts&
 
 void addLoudness(CLI::App& app, TypedCommand& typed) {
   CLI::Option* quiet = app.add_flag("-q,--quiet", typed.quiet, "Print no messages but errors");
-  app.add_flag("-v,--verbose", typed.verbose, "Print the lines of the system log too")
+  app.add_flag("--log", typed.log, "Print every line of the log as it comes, instead of a summary")
+      ->excludes(quiet)
+      ->option_text(" ");
+  app.add_flag("-v,--verbose", typed.verbose, "The same, with the lines of the system log")
       ->excludes(quiet)
       ->option_text(" ");
   quiet->option_text(" ");

@@ -17,6 +17,7 @@ namespace glossmill {
 /// What was typed: the command to run, and how loud it is to be.
 struct TypedCommand {
   bool quiet = false;
+  bool log = false;
   bool verbose = false;
   std::function<ExitCode(Console&)> run;
 
@@ -34,7 +35,7 @@ struct CommandTexts {
 CLI::App& addCommand(CLI::App& program, TypedCommand& typed, const CommandTexts& texts,
                      std::function<ExitCode(Console&)> run);
 
-/// Adds --quiet and --verbose.
+/// Adds --quiet, --log and --verbose.
 void addLoudness(CLI::App& app, TypedCommand& typed);
 
 /// Adds the project directory, which every command needs.

@@ -27,6 +27,7 @@ std::size_t& unreadOf(FileRole role, ScanTotals& totals) {
 }  // namespace
 
 void ScanReport::add(const ScanEvent& event) {
+  m_news.add(event);
   std::visit(Overloaded{
                  [this](const ProjectFileUnread& it) { findings(FileRole::ProjectFile, it.file).unread = it.error; },
                  [this](const SourceUnread& it) { findings(FileRole::Source, it.file).unread = it.error; },

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/ScanEvents.h"
+#include "model/ScanNews.h"
 
 namespace glossmill {
 
@@ -45,11 +46,14 @@ class ScanReport {
   /// The files of which something was left out, in the order in which they were read.
   const std::vector<FileFindings>& files() const { return m_files; }
   ScanTotals totals() const;
+  /// What there is to say of the scan, with examples.
+  const ScanNews& news() const { return m_news; }
 
  private:
   FileFindings& findings(FileRole role, const FileUrl& file);
 
   std::vector<FileFindings> m_files;
+  ScanNews m_news;
 };
 
 }  // namespace glossmill

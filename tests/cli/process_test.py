@@ -38,8 +38,8 @@ class ProcessTest(unittest.TestCase):
         with open(path, "w", encoding="utf-8") as file:
             file.write(text)
 
-    def start(self, command, **options):
-        process = subprocess.Popen([PROGRAM, command, str(self.project)], **options)
+    def start(self, *arguments, **options):
+        process = subprocess.Popen([PROGRAM, *arguments, str(self.project)], **options)
         self.addCleanup(process.wait, TIME_LIMIT)
         self.addCleanup(process.kill)
         return process
@@ -47,7 +47,7 @@ class ProcessTest(unittest.TestCase):
     def start_and_hold(self, command):
         """Starts a command that is at work and cannot end before its messages are read."""
         self.write("main.m", 'NSLocalizedString(x, @"")\n' * REJECTED_CALLS)
-        process = self.start(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        process = self.start(command, "--log", stdout=subprocess.PIPE, stderr=subprocess.PIPE)
         self.addCleanup(process.stdout.close)
         self.addCleanup(process.stderr.close)
         self.assertTrue(os.read(process.stderr.fileno(), 1))
@@ -90,7 +90,7 @@ class Interrupt(ProcessTest):
             signal.signal(signal.SIGINT, signal.SIG_IGN)
 
         self.write("main.m", 'NSLocalizedString(x, @"")\n' * REJECTED_CALLS)
-        process = self.start("scan", stdout=subprocess.PIPE, stderr=subprocess.PIPE, preexec_fn=ignore)
+        process = self.start("scan", "--log", stdout=subprocess.PIPE, stderr=subprocess.PIPE, preexec_fn=ignore)
         self.assertTrue(os.read(process.stderr.fileno(), 1))
         process.send_signal(signal.SIGINT)
         stdout, _ = process.communicate(timeout=TIME_LIMIT)
@@ -106,7 +106,7 @@ class Progress(ProcessTest):
         self.write("main.m", 'NSLocalizedString(x, @"")\n' * REJECTED_CALLS)
         reader, writer = pty.openpty()
         self.addCleanup(os.close, reader)
-        process = self.start("scan", stdout=subprocess.DEVNULL, stderr=writer, env=os.environ | {"TERM": "xterm"})
+        process = self.start("scan", "--log", stdout=subprocess.DEVNULL, stderr=writer, env=os.environ | {"TERM": "xterm"})
         os.close(writer)
         shown = os.read(reader, 1)
         time.sleep(0.6)  # the job waits for its reader, so that it is a long one by now
@@ -200,7 +200,7 @@ class Links(ProcessTest):
         self.link_into_one_another(38)
         run = subprocess.run([PROGRAM, "scan", "--json", str(self.project)], capture_output=True, check=True,
                              timeout=TIME_LIMIT)
-        self.assertEqual(run.stderr.count(b"Too many directories"), 1)
+        self.assertEqual(run.stderr.count(b"too many are reached through links"), 1)
         unread = json.loads(run.stdout)["unread"]
         self.assertIn("Too many directories are reached through links.", [place["message"] for place in unread])
 

@@ -1,0 +1,6 @@
+NSLocalizedString(@"Ebb", @"the tide");
+NSLocalizedString(one, @"");
+NSLocalizedString(two,
+                  @"");
+NSLocalizedString(three, @"");
+NSLocalizedString(four, @"");
