@@ -1,0 +1,11 @@
+#include "model/SourceText.h"
+
+namespace glossmill {
+
+std::string_view sourceTextOf(const LocalizeString& record, LanguageCode sourceLanguage) {
+  if (record.tableRow() && record.tableRow()->sourceText) return record.tableRow()->sourceText.view();
+  const std::optional<std::string_view> text = record.languagesDict().find(sourceLanguage);
+  return text && !text->empty() ? *text : std::string_view(record.name());
+}
+
+}  // namespace glossmill
