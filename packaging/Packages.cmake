@@ -1,0 +1,38 @@
+# The two Debian packages. cpack --config build/default/CPackConfig.cmake makes them.
+set(GLOSSMILL_MAINTAINER "The Glossmill authors <maintainers@glossmill.org>" CACHE STRING "Who stands behind the packages")
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_SOURCE_GENERATOR TGZ)
+set(CPACK_PACKAGE_NAME glossmill)
+set(CPACK_PACKAGE_VENDOR Glossmill)
+set(CPACK_PACKAGE_CONTACT "${GLOSSMILL_MAINTAINER}")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
+set(CPACK_COMPONENTS_ALL cli)
+if(TARGET glossmill)
+  list(APPEND CPACK_COMPONENTS_ALL desktop)
+endif()
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${GLOSSMILL_MAINTAINER}")
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+# What the programs need is read from them.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+
+set(CPACK_DEBIAN_CLI_PACKAGE_NAME glossmill-cli)
+set(CPACK_DEBIAN_CLI_PACKAGE_SECTION devel)
+set(CPACK_DEBIAN_CLI_PACKAGE_SUGGESTS glossmill)
+file(READ "${CMAKE_CURRENT_LIST_DIR}/debian/description-cli" CPACK_DEBIAN_CLI_DESCRIPTION)
+
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_NAME glossmill)
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_SECTION devel)
+# The toolkit's own texts, such as those of its file panel, in other languages.
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS qt6-translations-l10n)
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_SUGGESTS glossmill-cli)
+file(READ "${CMAKE_CURRENT_LIST_DIR}/debian/description-desktop" CPACK_DEBIAN_DESKTOP_DESCRIPTION)
+
+include(CPack)
