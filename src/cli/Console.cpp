@@ -36,6 +36,8 @@ std::string_view colorCode(Paint paint) {
       return "\x1B[32m";
     case Paint::Gap:
       return "\x1B[33m";
+    case Paint::Bad:
+      return "\x1B[31m";
     case Paint::Plain:
       break;
   }

@@ -7,7 +7,7 @@
 namespace glossmill {
 
 enum class Loudness { Quiet, Normal, Log, Verbose };
-enum class Paint { Plain, Heading, Good, Gap };
+enum class Paint { Plain, Heading, Good, Gap, Bad };
 
 /// Where a command speaks: data on standard output, everything else on standard error. Colour and the progress line
 /// appear on a terminal only. Messages may come from any thread, the rest is for the main thread.

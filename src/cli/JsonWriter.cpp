@@ -59,6 +59,18 @@ std::size_t pieceLength(std::string_view text) {
 
 }  // namespace
 
+std::string compactJson(const Json& value) {
+  std::string text;
+  appendEscaped(text, dumped(value));
+  return text;
+}
+
+std::string prettyJson(const Json& value) {
+  std::string text;
+  appendEscaped(text, value.dump(2, ' ', false, Json::error_handler_t::replace));
+  return text + "\n";
+}
+
 void JsonWriter::member(std::string_view memberName, const Json& memberValue) {
   name(memberName);
   value(memberValue);
@@ -66,7 +78,7 @@ void JsonWriter::member(std::string_view memberName, const Json& memberValue) {
 
 void JsonWriter::end() {
   m_text += m_isFirst ? "{}\n" : "\n}\n";
-  m_console.data(m_text);
+  m_sink(m_text);
   m_text.clear();
 }
 
@@ -115,7 +127,7 @@ void JsonWriter::longText(std::string_view text) {
 
 void JsonWriter::handOver() {
   if (m_text.size() < kMostHeld) return;
-  m_console.data(m_text);
+  m_sink(m_text);
   m_text.clear();
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "cli/Console.h"
 
@@ -11,11 +13,21 @@ namespace glossmill {
 
 using Json = nlohmann::ordered_json;
 
+/// The value on one line, with what JsonWriter says of characters.
+std::string compactJson(const Json& value);
+/// The same over several lines, for people to look at, with a line feed at the end.
+std::string prettyJson(const Json& value);
+
 /// Prints one JSON object member by member, so that a large project is never held as a document. What is not valid
 /// UTF-8, as the name of a file may be, gets U+FFFD; control characters of U+007F to U+009F are escaped too.
 class JsonWriter {
  public:
-  explicit JsonWriter(Console& console) : m_console(console) {}
+  /// Gets the text in pieces.
+  using Sink = std::function<void(std::string_view)>;
+
+  explicit JsonWriter(Sink sink) : m_sink(std::move(sink)) {}
+  /// On standard output; the console outlives the writer.
+  explicit JsonWriter(Console& console) : JsonWriter([&console](std::string_view text) { console.data(text); }) {}
 
   void member(std::string_view name, const Json& value);
   /// An array with a line for each of the `count` values that `valueAt(index)` gives.
@@ -30,7 +42,7 @@ class JsonWriter {
   void longText(std::string_view text);
   void handOver();
 
-  Console& m_console;
+  Sink m_sink;
   std::string m_text;
   bool m_isFirst = true;
 };

@@ -7,7 +7,7 @@ A case is a folder:
   command          the arguments; $INPUT stands for the copy's absolute path, and the copy lies in the working directory
   env              optional: NAME=VALUE lines
   terminal         optional: when this file exists, standard output is a terminal
-  expected-stdout  with $INPUT for the copy's path
+  expected-stdout  with $INPUT for the copy's path and $WORK for the working directory's
   expected-stderr  optional: without it standard error is not compared
   expected-exit    optional: without it the exit code is 0
   expected-tree/   optional: the copy afterwards; without it nothing in the copy may have changed
@@ -60,7 +60,7 @@ class Outcome:
         self.stdout, self.stderr = (self.portable(output) for output in (stdout, stderr))
 
     def portable(self, output):
-        return output.decode("utf-8").replace(str(self.tree), "$INPUT")
+        return output.decode("utf-8").replace(str(self.tree), "$INPUT").replace(str(self.tree.parent), "$WORK")
 
 
 def read_terminal(descriptor):
