@@ -47,7 +47,7 @@ class AppDelegate : public ApplicationServices {
   /// How projects are opened from now on.
   void setProjectOptions(const ProjectOptions& options) { m_projectOptions = options; }
   /// Set it before the project window is opened.
-  void setSettingsReader(ProjectWindowController::SettingsReader reader) { m_settingsReader = std::move(reader); }
+  void setSettingsReader(SettingsReader reader) { m_settingsReader = std::move(reader); }
   /// Called with each message of the log, for whoever passes messages on. Set it before the first one. Main thread.
   std::function<void(const Message&)> onLogText;
 
@@ -70,7 +70,7 @@ class AppDelegate : public ApplicationServices {
   Host m_host;
   const KeptLog m_keptLog;
   ProjectOptions m_projectOptions;
-  ProjectWindowController::SettingsReader m_settingsReader;
+  SettingsReader m_settingsReader;
   NewsQueue m_news;
   std::unique_ptr<ProjectWindowController> m_projectWindowController;
   std::unique_ptr<LogWindowController> m_logWindowController;

@@ -12,12 +12,11 @@ namespace glossmill {
 namespace {
 
 /// The options' rules are those of a project that does not say which are its own.
-Result<ProjectWindowController::Opening> settledOpening(FileReading& files,
-                                                        const ProjectWindowController::Opening& wanted) {
+Result<ProjectOpening> settledOpening(FileReading& files, const ProjectOpening& wanted) {
   const ReadingWish wish = {{}, {}, wanted.options.rules};
   Result<ReadingChoice> choice = readingChoice(files, wanted.directory, wish, absoluteUrl);
   if (!choice) return choice.error();
-  ProjectWindowController::Opening settled = {choice.value().directory, wanted.options};
+  ProjectOpening settled = {choice.value().directory, wanted.options};
   settled.options.rules = choice.value().rules;
   settled.options.xcode = std::move(choice.value().xcode);
   return settled;
@@ -42,8 +41,7 @@ DesktopProgram::DesktopProgram(OwnTexts texts)
   options.command = "window";
   options.version = fromQt(QApplication::applicationVersion());
   m_delegate.setProjectOptions(options);
-  m_delegate.setSettingsReader(
-      [this](const ProjectWindowController::Opening& wanted) { return settledOpening(m_files, wanted); });
+  m_delegate.setSettingsReader([this](const ProjectOpening& wanted) { return settledOpening(m_files, wanted); });
 }
 
 /// Jobs use the project, so they end before it goes.

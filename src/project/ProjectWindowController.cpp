@@ -1,18 +1,13 @@
 #include "project/ProjectWindowController.h"
 
-#include "project/RuleSets.h"
 #include "text/Format.h"
 
 namespace glossmill {
 
 ProjectWindowController::ProjectWindowController(const Host& host, ApplicationServices& application)
-    : m_host(host),
-      m_application(application),
-      m_statusTexts(host.bundle),
-      m_scanMessages(host.bundle, host.systemLog, [this](const Message& message) { logText(message); }),
-      m_longJob(host.sheets, [this] { return m_host.interfaces.loadLongTimeSheet(*this); }),
-      m_unsaved(host.files, host.saves),
-      m_rules(&projectRules(m_options.rules)) {
+    : ProjectParts(
+          host, application, [this](const Message& message) { logText(message); },
+          [this] { return m_host.interfaces.loadLongTimeSheet(*this); }) {
   m_stringController.addObserver([this](ArrayChange change) {
     if (change == ArrayChange::Content) m_counts.invalidate();
     if (change == ArrayChange::Selection) m_history.endVisit();

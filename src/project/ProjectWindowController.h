@@ -8,31 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "dialogs/LanguageDialogDelegates.h"
-#include "edit/EditHistory.h"
-#include "exchange/ImportReport.h"
-#include "model/ArrayController.h"
-#include "model/EditDoor.h"
-#include "model/IsoTable.h"
-#include "model/Language.h"
-#include "model/LocalizeString.h"
-#include "model/Problem.h"
 #include "model/ProjectContext.h"
-#include "model/ProjectOptions.h"
-#include "model/ProjectRules.h"
-#include "model/ScanReport.h"
-#include "model/StatusTexts.h"
-#include "model/StringsTable.h"
-#include "model/TranslationCounts.h"
-#include "platform/Host.h"
-#include "project/LongJob.h"
-#include "project/ProjectMoment.h"
-#include "project/ReadFiles.h"
+#include "project/ProjectParts.h"
 #include "project/Recovery.h"
-#include "project/SaveReport.h"
-#include "project/ScanMessages.h"
-#include "project/UnsavedWork.h"
-#include "safety/WatchedReading.h"
 
 namespace glossmill {
 
@@ -45,16 +23,15 @@ class ScanRun;
 /// "background".
 class ProjectWindowController : public ProjectContext,
                                 public LanguageWindowControllerDelegate,
-                                public SelectLanguageWindowControllerDelegate {
+                                public SelectLanguageWindowControllerDelegate,
+                                private ProjectParts {
  public:
-  using StringController = ArrayController<LocalizeString>;
-  using LanguageController = ArrayController<Language>;
+  using ProjectParts::LanguageController;
+  using ProjectParts::StringController;
 
   /// `host` and `application` outlive the controller.
   ProjectWindowController(const Host& host, ApplicationServices& application);
   ~ProjectWindowController() override;
-  ProjectWindowController(const ProjectWindowController&) = delete;
-  ProjectWindowController& operator=(const ProjectWindowController&) = delete;
 
   // ---- State: ProjectWindowController.cpp ----
 
@@ -108,14 +85,7 @@ class ProjectWindowController : public ProjectContext,
   bool openProject(const FileUrl& start, const ProjectOptions& options = {});
   /// The same for a directory that is known, without the panel.
   bool openProjectAt(const FileUrl& directory, const ProjectOptions& options = {});
-  /// A directory, and how it is read.
-  struct Opening {
-    FileUrl directory;
-    ProjectOptions options;
-  };
-  /// Asked before each scan for what the project itself says of how it is to be read. An error is told in an alert, and
-  /// nothing is read.
-  using SettingsReader = std::function<Result<Opening>(const Opening& wanted)>;
+  /// Asked before each scan; an error is told in an alert, and nothing is read.
   void setSettingsReader(SettingsReader reader) { m_settingsReader = std::move(reader); }
   /// By which rules, and how else, the project was opened.
   const ProjectOptions& projectOptions() const { return m_options; }
@@ -269,13 +239,6 @@ class ProjectWindowController : public ProjectContext,
                                                std::shared_ptr<Language> language) override;
 
  private:
-  /// What is the same again after a project was read anew.
-  struct BeforeReading {
-    std::string key;                 ///< of the selected string
-    std::string language;            ///< code of the selected one
-    std::vector<JournalEdit> edits;  ///< that no save wrote
-  };
-
   void windowDidLoad();
   void loadIsoTable();
   std::string localized(std::string_view key) const { return m_host.bundle.localizedString(key); }
@@ -321,49 +284,6 @@ class ProjectWindowController : public ProjectContext,
   bool createLanguageDirectory(const Language& language);
   bool applyImport(const ImportPlan& plan, ImportReport& report);
   void endCanceledImport(const Language& language, const FileUrl& file);
-
-  Host m_host;
-  ApplicationServices& m_application;
-  StatusTexts m_statusTexts;
-  ScanMessages m_scanMessages;
-
-  Interface<ProjectWindowOutlets> m_window;
-  LongJob m_longJob;
-
-  std::shared_ptr<SelectLanguageWindowController> m_selectLanguageWindowController;
-  std::shared_ptr<SelectLanguageWindowController> m_endedSelectLanguageWindowController;
-  std::shared_ptr<LanguageWindowController> m_exportLanguageWindowController;
-  std::shared_ptr<LanguageWindowController> m_baseLanguageWindowController;
-  std::shared_ptr<LanguageWindowController> m_importLanguageWindowController;
-
-  StringController m_stringController;      ///< its content is the string list
-  LanguageController m_languageController;  ///< its content is the list of languages
-  std::vector<FileUrl> m_fileList;
-  std::vector<FileUrl> m_packages;
-  StringsTables m_tables;
-  std::vector<Problem> m_problems;
-  StringArray m_filteredStringList;  ///< held back from the string table by the filter
-  mutable TranslationCounts m_counts;
-  EditDoor m_edits;
-  EditedTexts m_edited;  ///< where only these are saved
-  EditHistory m_history;
-  UnsavedWork m_unsaved;
-  ProjectObservers m_observers;
-
-  FileUrl m_projectDirectory;
-  ProjectOptions m_options;
-  SettingsReader m_settingsReader;
-  const ProjectRules* m_rules;  ///< those of the options
-  IsoTable m_iso639Dict;
-  ScanMemory m_scanMemory;  ///< written by phase one
-  ScanReport m_scanReport;
-  ReadFiles m_readFiles;
-  std::vector<UnreadPlace> m_unread;  ///< of the open project
-  SaveReport m_lastSave;
-  ImportReport m_importReport;
-  std::optional<BeforeReading> m_before;  ///< while it is read anew
-  bool m_changed = false;
-  bool m_opened = false;
 };
 
 }  // namespace glossmill

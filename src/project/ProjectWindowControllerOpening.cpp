@@ -24,8 +24,8 @@ bool ProjectWindowController::openProjectAt(const FileUrl& directory, const Proj
 }
 
 bool ProjectWindowController::startScan(const FileUrl& directory, const ProjectOptions& options) {
-  const Opening wanted{directory, options};
-  const Result<Opening> settled = m_settingsReader ? m_settingsReader(wanted) : wanted;
+  const ProjectOpening wanted{directory, options};
+  const Result<ProjectOpening> settled = m_settingsReader ? m_settingsReader(wanted) : wanted;
   if (!settled) {
     runOkAlert(settled.error().sentence);
     return false;
