@@ -20,6 +20,9 @@ void onApplication(AppDelegate& application) {
   (application.*operation)();
 }
 
+/// Where the names of commands and menus stand without their types, some of which are those of classes elsewhere.
+namespace table {
+
 using enum CommandId;
 using enum MenuId;
 using Project = ProjectWindowController;
@@ -67,37 +70,39 @@ constexpr ToolBarItem kToolBarItems[] = {
     {Export, "export", "Export"}, {Import, "import", "Import"}, {BaseLanguage, "base-language", "Base Language"},
 };
 
+}  // namespace table
+
 }  // namespace
 
 std::span<const Command> commands() {
-  return kCommands;
+  return table::kCommands;
 }
 
 const Command& command(CommandId id) {
-  return *std::find_if(std::begin(kCommands), std::end(kCommands),
+  return *std::find_if(std::begin(table::kCommands), std::end(table::kCommands),
                        [id](const Command& candidate) { return candidate.id == id; });
 }
 
 std::string_view menuTitle(MenuId menu) {
   switch (menu) {
-    case File:
+    case MenuId::File:
       return "&File";
-    case Recent:
-      return command(OpenRecent).title;
+    case MenuId::Recent:
+      return command(CommandId::OpenRecent).title;
     case MenuId::Edit:
       return "&Edit";
-    case Go:
+    case MenuId::Go:
       return "&Go";
-    case Windows:
+    case MenuId::Windows:
       return "&Window";
-    case Help:
+    case MenuId::Help:
       return "&Help";
   }
   return {};
 }
 
 std::span<const ToolBarItem> toolBarItems() {
-  return kToolBarItems;
+  return table::kToolBarItems;
 }
 
 bool isEnabled(const AppDelegate& application, const Command& command) {
