@@ -5,15 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "text/TextRange.h"
+
 namespace glossmill {
-
-/// A run of bytes of a text.
-struct TextRange {
-  std::size_t begin = 0;
-  std::size_t length = 0;
-
-  bool operator==(const TextRange&) const = default;
-};
 
 /// What an argument of a format has to be. Conversions that only differ in how they show it are of one kind.
 enum class ArgumentKind {
