@@ -6,9 +6,6 @@
 
 namespace glossmill {
 
-/// The code of a language by its name of former times (English gives en); "" for any other text.
-std::string_view codeOfOldName(std::string_view name);
-
 /// The `.lproj` directories that stand beside one another, and which language each of them is of.
 class LanguageDirectories {
  public:
