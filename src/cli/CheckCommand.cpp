@@ -69,7 +69,7 @@ std::vector<std::string> checkNames() {
 }
 
 void addFindingsOptions(CLI::App& command, FindingsOptions& options) {
-  command.add_option("--checks", options.checks, "Look for these only, by their names with commas; for all else")
+  command.add_option("--checks", options.checks, "Which checks are made: their names, with commas between")
       ->delimiter(',')
       ->allow_extra_args(false)
       ->check(CLI::IsMember(checkNames()))
@@ -98,7 +98,7 @@ void addFindingsOptions(CLI::App& command, FindingsOptions& options) {
 void addCheckCommand(CLI::App& program, TypedCommand& typed) {
   const auto options = std::make_shared<CheckOptions>();
   CLI::App& command = addCommand(program, typed,
-                                 {"check", "Fail unless languages are complete and without mistakes, for build servers",
+                                 {"check", "Find what is missing or wrong in languages, for build servers",
                                   "~/Projects/Harbour --fail-on warning"},
                                  [options](Console& console) { return check(*options, console); });
   addProject(command, options->project);

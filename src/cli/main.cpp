@@ -14,6 +14,7 @@
 #include "cli/HistoryCommand.h"
 #include "cli/ImportCommand.h"
 #include "cli/InitCommand.h"
+#include "cli/PrintCommand.h"
 #include "cli/PruneCommand.h"
 #include "cli/RecoverCommand.h"
 #include "cli/RestoreCommand.h"
@@ -29,14 +30,25 @@ namespace glossmill {
 
 namespace {
 
-constexpr const char* kExitCodes =
-    "\n\n"
-    "Exit codes:\n"
-    "  0    fine\n"
-    "  1    a language that was checked is not complete\n"
-    "  2    wrong usage, or a language that the project does not have\n"
-    "  3    the directory or a file cannot be used\n"
-    "  130  ended by Ctrl+C";
+const std::vector<ExitCodeText>& exitCodes() {
+  static const std::vector<ExitCodeText> kExitCodes = {
+      {"0", "fine"},
+      {"1", "a check failed"},
+      {"2", "wrong usage, or a language that the project does not have"},
+      {"3", "the directory or a file cannot be used"},
+      {"130", "ended by Ctrl+C"},
+  };
+  return kExitCodes;
+}
+
+std::string exitCodesText() {
+  constexpr std::size_t kColumns = 5;
+  std::string text = "\n\nExit codes:";
+  for (const ExitCodeText& exit : exitCodes()) {
+    text.append("\n  ").append(exit.code).append(kColumns - exit.code.size(), ' ').append(exit.meaning);
+  }
+  return text;
+}
 
 void addEverything(CLI::App& program, TypedCommand& typed) {
   program.set_version_flag("--version", "glossmill-cli " GLOSSMILL_VERSION);
@@ -59,7 +71,8 @@ void addEverything(CLI::App& program, TypedCommand& typed) {
   addHistoryCommand(program, typed);
   addRestoreCommand(program, typed);
   addRecoverCommand(program, typed);
-  program.footer(program.get_footer() + kExitCodes);
+  program.footer(program.get_footer() + exitCodesText());
+  addPrintCommand(program, typed, exitCodes());
 }
 
 std::string commandProblem(const CLI::App& program) {
