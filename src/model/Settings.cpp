@@ -13,6 +13,8 @@ constexpr Setting kSettings[] = {
     {CodeLengths, "SelectLangaugeFilterButtonState",
      "languages that can be added: 0 those with two letters, 1 with three, 2 both", 0},
     {WindowLayout, "Layout", "where each window stood and how its parts were divided, by the names of the widgets"},
+    {XcodeProjects, "XcodeRulesProjects",
+     "paths of the projects that are read by xcode's rules, the latest chosen first"},
 };
 
 }  // namespace

@@ -10,7 +10,7 @@
 namespace glossmill {
 
 /// Everything that outlives a run.
-enum class SettingId { RecentProjects, StringFilter, CodeLengths, WindowLayout };
+enum class SettingId { RecentProjects, StringFilter, CodeLengths, WindowLayout, XcodeProjects };
 
 struct Setting {
   SettingId id;

@@ -65,6 +65,18 @@ Outcome takeMember(const std::string& key, const SettingsJson& value, ProjectSet
   return Error{"is not known"};
 }
 
+/// As the first member, set off as the one that was the first.
+void insertRules(std::string& text, const std::string& value) {
+  const std::size_t inside = text.find('{') + 1;
+  const std::size_t first = text.find_first_not_of(" \t\r\n", inside);
+  const std::string blank = text.substr(inside, first - inside);
+  const bool isOnlyMember = text[first] == '}';
+  text.insert(isOnlyMember ? inside : first, "\"rules\": " + value +
+                                                 (isOnlyMember    ? ""
+                                                  : blank.empty() ? ", "
+                                                                  : "," + blank));
+}
+
 }  // namespace
 
 Result<ProjectSettings> parseProjectSettings(std::string_view text) {
@@ -81,6 +93,23 @@ Result<ProjectSettings> parseProjectSettings(std::string_view text) {
     if (!taken) return mistake(lineOfKey(text, key), "\"" + key + "\" " + taken.error().sentence);
   }
   return settings;
+}
+
+Result<std::string> settingsTextWithRules(std::string_view text, RuleSet rules) {
+  const Result<ProjectSettings> before = parseProjectSettings(text);
+  if (!before) return before.error();
+  std::string changed(text);
+  const std::string value = rules == RuleSet::Xcode ? "\"xcode\"" : "\"classic\"";
+  if (const std::optional<TextRange> place = scalarOfKey(text, "rules")) {
+    changed.replace(place->start, place->length, value);
+  } else {
+    insertRules(changed, value);
+  }
+  ProjectSettings wanted = before.value();
+  wanted.rules = rules;
+  const Result<ProjectSettings> after = parseProjectSettings(changed);
+  if (after && after.value() == wanted) return changed;
+  return mistake(1, "the rules cannot be changed here; change them in the file");
 }
 
 std::string projectSettingsText(const ProjectSettings& settings) {

@@ -29,6 +29,10 @@ Result<ProjectSettings> parseProjectSettings(std::string_view text);
 /// The text of the file, all keys that say something in it.
 std::string projectSettingsText(const ProjectSettings& settings);
 
+/// The text of a settings file with other rules and everything else as it stands; an error where it has a mistake, or
+/// spells its keys in a way that this does not see through.
+Result<std::string> settingsTextWithRules(std::string_view text, RuleSet rules);
+
 /// The settings of the project in this directory; none where there is no file.
 Result<ProjectSettings> readProjectSettings(FileReading& files, const FileUrl& directory);
 

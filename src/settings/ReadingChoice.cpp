@@ -23,10 +23,14 @@ Result<std::vector<FileUrl>> packagesOf(FileReading& files, const FileUrl& direc
 
 }  // namespace
 
+FileUrl projectDirectoryOf(FileReading& files, const FileUrl& opened) {
+  return isPackage(files, opened) ? opened.parent() : opened;
+}
+
 Result<ReadingChoice> readingChoice(FileReading& files, const FileUrl& opened, const ReadingWish& wish,
                                     const PathResolver& absolute) {
-  const bool opensPackage = isPackage(files, opened);
-  const FileUrl directory = opensPackage ? opened.parent() : opened;
+  const FileUrl directory = projectDirectoryOf(files, opened);
+  const bool opensPackage = !(directory == opened);
   const Result<ProjectSettings> settings = readProjectSettings(files, directory);
   if (!settings) return settings.error();
   ReadingChoice choice;

@@ -30,6 +30,9 @@ struct ReadingChoice {
 /// The absolute form of a path.
 using PathResolver = std::function<FileUrl(std::string_view)>;
 
+/// The directory of a package that is opened itself; otherwise what is opened.
+FileUrl projectDirectoryOf(FileReading& files, const FileUrl& opened);
+
 /// What is wished comes first, then what the project's own settings file says. A package stands for its directory under
 /// xcode's rules. An error is one whole sentence.
 Result<ReadingChoice> readingChoice(FileReading& files, const FileUrl& opened, const ReadingWish& wish,

@@ -12,7 +12,7 @@ using Texts = std::vector<std::string>;
 
 TEST(Settings, AreFoundByTheirId) {
   for (const Setting& each : settings()) EXPECT_EQ(&setting(each.id), &each) << each.key;
-  EXPECT_EQ(settings().size(), static_cast<std::size_t>(SettingId::WindowLayout) + 1);
+  EXPECT_EQ(settings().size(), static_cast<std::size_t>(SettingId::XcodeProjects) + 1);
 }
 
 TEST(Settings, HaveAKeyOfTheirOwnAndAMeaning) {
@@ -28,6 +28,7 @@ TEST(Settings, KeepTheKeysOfWhatIsStoredAlready) {
   EXPECT_EQ(setting(SettingId::StringFilter).key, "StringFilterPopUp");
   EXPECT_EQ(setting(SettingId::CodeLengths).key, "SelectLangaugeFilterButtonState");
   EXPECT_EQ(setting(SettingId::WindowLayout).key, "Layout");
+  EXPECT_EQ(setting(SettingId::XcodeProjects).key, "XcodeRulesProjects");
 }
 
 TEST(Settings, HaveTheirDefaultWhileNothingIsStored) {

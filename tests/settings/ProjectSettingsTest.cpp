@@ -58,6 +58,32 @@ TEST(ProjectSettings, TheirTextSaysTheSame) {
   EXPECT_EQ(parseProjectSettings(projectSettingsText(settings)).value(), settings);
 }
 
+std::string withRules(std::string_view text, RuleSet rules) {
+  const Result<std::string> changed = settingsTextWithRules(text, rules);
+  return changed ? changed.value() : changed.error().sentence;
+}
+
+TEST(ProjectSettings, GetOtherRulesAndStayOtherwiseAsTheyStand) {
+  EXPECT_EQ(withRules("{ \"exclude\":[\"rules\"],\n\t\"rules\" : \"classic\" }\n", RuleSet::Xcode),
+            "{ \"exclude\":[\"rules\"],\n\t\"rules\" : \"xcode\" }\n");
+  EXPECT_EQ(withRules("\xEF\xBB\xBF{\"rules\": \"xcode\"}", RuleSet::Classic), "\xEF\xBB\xBF{\"rules\": \"classic\"}");
+  EXPECT_EQ(withRules("{\"rules\": \"xcode\"}", RuleSet::Xcode), "{\"rules\": \"xcode\"}");
+}
+
+TEST(ProjectSettings, GetRulesInFrontWhereTheyHadNone) {
+  EXPECT_EQ(withRules("{}", RuleSet::Xcode), "{\"rules\": \"xcode\"}");
+  EXPECT_EQ(withRules("{\n  \"sourceLanguage\": \"en\"\n}\n", RuleSet::Xcode),
+            "{\n  \"rules\": \"xcode\",\n  \"sourceLanguage\": \"en\"\n}\n");
+  EXPECT_EQ(withRules("{\"sourceLanguage\": \"en\"}", RuleSet::Classic),
+            "{\"rules\": \"classic\", \"sourceLanguage\": \"en\"}");
+}
+
+TEST(ProjectSettings, ThatAreNotUnderstoodAreNotChanged) {
+  EXPECT_EQ(withRules("{\"colour\": 1}", RuleSet::Xcode), ".glossmill.json, line 1: \"colour\" is not known");
+  EXPECT_EQ(withRules("{\"ru\\u006ces\": \"classic\"}", RuleSet::Xcode),
+            ".glossmill.json, line 1: the rules cannot be changed here; change them in the file");
+}
+
 TEST(ProjectSettings, AreReadWhereTheFileIs) {
   InMemoryFiles files;
   files.addDirectory("/p");
