@@ -53,6 +53,8 @@ bool AppDelegate::validateMenuItem(int tag) const {
       return project && project->canSaveAll();
     case 20:
       return m_news.current() != nullptr;
+    case 22:
+      return project && project->opened() && project->projectOptions().rules == RuleSet::Xcode;
     default:
       return true;
   }
@@ -88,6 +90,10 @@ void AppDelegate::prevLanguage() {
 
 void AppDelegate::nextLanguage() {
   if (m_projectWindowController) m_projectWindowController->selectNextLanguage();
+}
+
+void AppDelegate::chooseRules(RuleSet rules) {
+  if (m_projectWindowController) glossmill::chooseRules(m_host, *m_projectWindowController, rules, m_rulesKeeper);
 }
 
 void AppDelegate::openProjectWindow() {

@@ -8,6 +8,7 @@
 
 #include "app/LogWindowController.h"
 #include "app/NewsQueue.h"
+#include "app/RulesChoice.h"
 #include "platform/Host.h"
 #include "project/ProjectWindowController.h"
 
@@ -38,6 +39,8 @@ class AppDelegate : public ApplicationServices {
   void nextString();
   void prevLanguage();
   void nextLanguage();
+  /// By which rules the open project is read from now on.
+  void chooseRules(RuleSet rules);
   void openProjectWindow();
   void openLogWindow();
   /// Opens the directory panel at a recent project.
@@ -48,6 +51,8 @@ class AppDelegate : public ApplicationServices {
   void setProjectOptions(const ProjectOptions& options) { m_projectOptions = options; }
   /// Set it before the project window is opened.
   void setSettingsReader(SettingsReader reader) { m_settingsReader = std::move(reader); }
+  /// What makes the choice of rules outlive the run.
+  void setRulesKeeper(RulesKeeper keeper) { m_rulesKeeper = std::move(keeper); }
   /// Called with each message of the log, for whoever passes messages on. Set it before the first one. Main thread.
   std::function<void(const Message&)> onLogText;
 
@@ -71,6 +76,7 @@ class AppDelegate : public ApplicationServices {
   const KeptLog m_keptLog;
   ProjectOptions m_projectOptions;
   SettingsReader m_settingsReader;
+  RulesKeeper m_rulesKeeper;
   NewsQueue m_news;
   std::unique_ptr<ProjectWindowController> m_projectWindowController;
   std::unique_ptr<LogWindowController> m_logWindowController;

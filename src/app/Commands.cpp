@@ -20,15 +20,23 @@ void onApplication(AppDelegate& application) {
   (application.*operation)();
 }
 
+/// The action of a choice of rules.
+template <RuleSet rules>
+void choosingRules(AppDelegate& application) {
+  application.chooseRules(rules);
+}
+
 /// Where the names of commands and menus stand without their types, some of which are those of classes elsewhere.
 namespace table {
 
 using enum CommandId;
 using enum MenuId;
-using Project = ProjectWindowController;
+using Controller = ProjectWindowController;
 using App = AppDelegate;
 
 constexpr bool kStartsGroup = true;
+
+constexpr MenuId kMenus[] = {File, MenuId::Edit, Project, Go, Windows, Help};
 
 constexpr Command kCommands[] = {
     {Open, File, "&Open...", {"Ctrl+O"}, 8, false, onApplication<&App::open>},
@@ -38,19 +46,24 @@ constexpr Command kCommands[] = {
     {Save, File, "&Save", {"Ctrl+S"}, 3, false, onApplication<&App::save>},
     {SaveAll, File, "Save All &Languages", {"Ctrl+Shift+S"}, 18, false, onApplication<&App::save>},
     {SavedVersions, File, "Saved &Versions...", {}, 21},
-    {Export, File, "&Export...", {"Ctrl+E"}, 5, kStartsGroup, onProject<&Project::exportStrings>},
-    {Import, File, "&Import...", {"Ctrl+I"}, 6, false, onProject<&Project::importStrings>},
-    {AddLanguage, File, "&Add Language...", {"Ctrl+L"}, 7, kStartsGroup, onProject<&Project::addLanguage>},
-    {BaseLanguage, File, "Create &Base Language...", {"Ctrl+B"}, 7, false, onProject<&Project::createBaseLanguage>},
+    {Export, File, "&Export...", {"Ctrl+E"}, 5, kStartsGroup, onProject<&Controller::exportStrings>},
+    {Import, File, "&Import...", {"Ctrl+I"}, 6, false, onProject<&Controller::importStrings>},
+    {AddLanguage, File, "&Add Language...", {"Ctrl+L"}, 7, kStartsGroup, onProject<&Controller::addLanguage>},
+    {BaseLanguage, File, "Create &Base Language...", {"Ctrl+B"}, 7, false, onProject<&Controller::createBaseLanguage>},
     {Quit, File, "&Quit", {"Ctrl+Q"}, 0, kStartsGroup, onApplication<&App::quit>},
 
-    {Undo, MenuId::Edit, "&Undo", {"Ctrl+Z"}, 16, false, onProject<&Project::undo>},
-    {Redo, MenuId::Edit, "&Redo", {"Ctrl+Shift+Z"}, 17, false, onProject<&Project::redo>},
+    {Undo, MenuId::Edit, "&Undo", {"Ctrl+Z"}, 16, false, onProject<&Controller::undo>},
+    {Redo, MenuId::Edit, "&Redo", {"Ctrl+Shift+Z"}, 17, false, onProject<&Controller::redo>},
     {Cut, MenuId::Edit, "Cu&t", {"Ctrl+X"}, 0, kStartsGroup},
     {Copy, MenuId::Edit, "&Copy", {"Ctrl+C"}},
     {Paste, MenuId::Edit, "&Paste", {"Ctrl+V"}},
     {SelectAll, MenuId::Edit, "Select &All", {"Ctrl+A"}},
     {Find, MenuId::Edit, "&Find", {"Ctrl+F"}, 0, kStartsGroup},
+
+    {CommandId::ChooseRules, Project, "&Rules", {}},
+    {RemoveUnused, Project, "Remove &Unused Entries...", {}, 22, kStartsGroup},
+    {UseClassicRules, MenuId::Rules, "&Classic Rules", {}, 2, false, choosingRules<RuleSet::Classic>},
+    {UseXcodeRules, MenuId::Rules, "&Xcode's Rules", {}, 2, false, choosingRules<RuleSet::Xcode>},
 
     {PreviousString, Go, "&Previous String", {"Alt+Up"}, 11, false, onApplication<&App::prevString>},
     {NextString, Go, "&Next String", {"Alt+Down", "Ctrl+Return"}, 12, false, onApplication<&App::nextString>},
@@ -74,6 +87,10 @@ constexpr ToolBarItem kToolBarItems[] = {
 
 }  // namespace
 
+std::span<const MenuId> menus() {
+  return table::kMenus;
+}
+
 std::span<const Command> commands() {
   return table::kCommands;
 }
@@ -91,6 +108,10 @@ std::string_view menuTitle(MenuId menu) {
       return command(CommandId::OpenRecent).title;
     case MenuId::Edit:
       return "&Edit";
+    case MenuId::Project:
+      return "&Project";
+    case MenuId::Rules:
+      return command(CommandId::ChooseRules).title;
     case MenuId::Go:
       return "&Go";
     case MenuId::Windows:
@@ -117,6 +138,16 @@ bool isEnabled(const AppDelegate& application, const ToolBarItem& item) {
 /// The menu knows which commands need a project, and disables them.
 std::string_view obstacle(const AppDelegate& application, const ToolBarItem& item) {
   return isEnabled(application, command(item.command)) ? std::string_view() : kOpenAProjectFirst;
+}
+
+bool isChoice(const Command& command) {
+  return command.menu == MenuId::Rules;
+}
+
+bool isChosen(const AppDelegate& application, const Command& command) {
+  const ProjectWindowController* project = application.projectWindowController();
+  const RuleSet rules = command.id == CommandId::UseXcodeRules ? RuleSet::Xcode : RuleSet::Classic;
+  return project && project->opened() && project->projectOptions().rules == rules;
 }
 
 void perform(AppDelegate& application, const Command& command) {

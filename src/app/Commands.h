@@ -8,7 +8,7 @@ namespace glossmill {
 
 class AppDelegate;
 
-enum class MenuId { File, Recent, Edit, Go, Windows, Help };
+enum class MenuId { File, Recent, Edit, Project, Rules, Go, Windows, Help };
 
 enum class CommandId {
   Open,
@@ -30,6 +30,10 @@ enum class CommandId {
   Paste,
   SelectAll,
   Find,
+  ChooseRules,  ///< the submenu itself
+  UseClassicRules,
+  UseXcodeRules,
+  RemoveUnused,
   PreviousString,
   NextString,
   PreviousLanguage,
@@ -65,6 +69,8 @@ struct ToolBarItem {
 /// Says the tool bar while no project is open; key of the program's texts.
 inline constexpr std::string_view kOpenAProjectFirst = "Open a project first";
 
+/// The menus of the menu bar, from left to right.
+std::span<const MenuId> menus();
 /// Every command, menu by menu and in the order of the menus.
 std::span<const Command> commands();
 const Command& command(CommandId id);
@@ -79,6 +85,10 @@ bool isEnabled(const AppDelegate& application, const ToolBarItem& item);
 /// What an enabled item says instead of carrying its command out, a key of the program's texts; empty when the command
 /// can be carried out. While no project is open the commands that work on one would get hold of its lists for good.
 std::string_view obstacle(const AppDelegate& application, const ToolBarItem& item);
+/// Whether one of the commands of its menu is always the chosen one.
+bool isChoice(const Command& command);
+/// Whether this choice is the chosen one; none is while no project is open.
+bool isChosen(const AppDelegate& application, const Command& command);
 /// Carries the command out, whether it is enabled or not; nothing happens when it has no action.
 void perform(AppDelegate& application, const Command& command);
 

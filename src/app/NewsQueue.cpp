@@ -5,11 +5,21 @@
 
 namespace glossmill {
 
+namespace {
+
+bool offers(const News& news) {
+  return news.kind == NewsKind::Offer;
+}
+
+}  // namespace
+
 void NewsQueue::post(News news) {
   const auto known =
       std::find_if(m_waiting.begin(), m_waiting.end(), [&news](const News& other) { return other.id == news.id; });
   if (known == m_waiting.end()) {
-    m_waiting.push_back(std::move(news));
+    const bool isOffer = news.kind == NewsKind::Offer;
+    const auto place = isOffer ? m_waiting.end() : std::find_if(m_waiting.begin(), m_waiting.end(), offers);
+    m_waiting.insert(place, std::move(news));
   } else {
     *known = std::move(news);
   }

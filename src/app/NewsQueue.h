@@ -9,7 +9,8 @@
 
 namespace glossmill {
 
-/// The news of a window: one piece is shown, the others wait behind it in the order in which they came. Main thread.
+/// The news of a window: one piece is shown, the others wait behind it in the order in which they came, offers behind
+/// all the rest. Main thread.
 class NewsQueue : public NewsBoard {
  public:
   /// Called whenever another piece is to be shown, or none.

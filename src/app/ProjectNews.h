@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/OutsideNews.h"
+#include "app/RulesNews.h"
 #include "app/SaveNews.h"
 #include "app/SaveRestorer.h"
 #include "app/WindowNews.h"
@@ -14,12 +15,14 @@ struct ProjectNews {
       : restorer(host, project),
         saves(host, project, board, restorer),
         outside(host, project, board, watch),
-        windows(host, project, board) {}
+        windows(host, project, board),
+        rules(project, board, host.bundle) {}
 
   SaveRestorer restorer;
   SaveNews saves;
   OutsideNews outside;
   WindowNews windows;
+  RulesNews rules;
 };
 
 }  // namespace glossmill

@@ -13,33 +13,22 @@ std::string keyAndComment(const LocalizeString& record) {
 
 }  // namespace
 
-StringSearch::StringSearch(ProjectWindowController& project)
+StringSearch::StringSearch(ProjectWindowController& project, ViewFilter& view)
     : m_project(project),
+      m_view(view),
       m_sources(keyAndComment),
       m_translations([this](const LocalizeString& record) { return translation(record); }) {}
 
 void StringSearch::search(std::string_view text) {
   m_wanted = foldCase(text);
-  m_kept = nullptr;
-  arrange();
+  if (m_wanted.empty()) return m_view.set(ViewPart::Search, nullptr);
+  if (m_translations.isEmpty()) foldTranslations();
+  m_view.set(ViewPart::Search, [this](const LocalizeString& record) { return holds(record); });
 }
 
 void StringSearch::translationsChanged() {
   m_translations.forget();
-  if (m_wanted.empty()) return;
-  m_kept = m_project.selectedString();
-  arrange();
-}
-
-void StringSearch::arrange() {
-  auto& strings = m_project.stringController();
-  if (m_wanted.empty()) {
-    strings.setFilter(nullptr);
-    return;
-  }
-  if (m_translations.isEmpty()) foldTranslations();
-  strings.setFilter([this](const LocalizeString& record) { return matches(record); });
-  if (!strings.selectedRow()) strings.setSelectionIndex(0);
+  if (!m_wanted.empty()) foldTranslations();
 }
 
 /// The records lie all over the memory; looking for their translations and nothing else lets the processor fetch many
@@ -61,11 +50,6 @@ void StringSearch::stringsChanged() {
 
 void StringSearch::translationEdited() {
   if (const auto record = m_project.selectedString()) m_translations.forget(*record);
-}
-
-bool StringSearch::matches(const LocalizeString& record) {
-  const bool found = holds(record);
-  return found || &record == m_kept.get();
 }
 
 /// Both texts are asked for every time, so that each keeps its order.

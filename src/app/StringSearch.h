@@ -5,35 +5,34 @@
 #include <string_view>
 
 #include "app/FoldedTexts.h"
+#include "app/ViewFilter.h"
 #include "project/ProjectWindowController.h"
 
 namespace glossmill {
 
-/// Narrows the string table to the records whose key, comment or translation in the selected language holds a text, in
-/// upper or lower case. Only the arrangement changes, the lists stay as they are.
+/// Narrows the view to the strings whose key, comment or translation in the selected language holds a text, in upper or
+/// lower case.
 class StringSearch {
  public:
-  /// `project` outlives the search.
-  explicit StringSearch(ProjectWindowController& project);
+  /// Both outlive the search.
+  StringSearch(ProjectWindowController& project, ViewFilter& view);
 
-  /// All strings for the empty text. The selected string stays selected if it is still there, else the first one is.
+  /// All strings for the empty text.
   void search(std::string_view text);
-  /// Other translations are to be searched: those of another language, or what a job has made of them. The selected
-  /// string stays in the table, whatever its translation is now.
+  /// Other translations are to be searched: those of another language, or what a job has made of them. To be called
+  /// before the view is refreshed.
   void translationsChanged();
   void stringsChanged();
   void translationEdited();
 
  private:
-  bool matches(const LocalizeString& record);
   bool holds(const LocalizeString& record);
   std::string translation(const LocalizeString& record) const;
   void foldTranslations();
-  void arrange();
 
   ProjectWindowController& m_project;
+  ViewFilter& m_view;
   std::string m_wanted;  ///< folded
-  std::shared_ptr<LocalizeString> m_kept;
   FoldedTexts m_sources;
   FoldedTexts m_translations;
 };

@@ -2,27 +2,14 @@
 
 #include <QApplication>
 
+#include "app/RememberedRules.h"
 #include "desktop/host/QtText.h"
 #include "desktop/windows/HelpWindows.h"
 #include "host/Paths.h"
+#include "settings/KeptRules.h"
 #include "settings/ReadingChoice.h"
 
 namespace glossmill {
-
-namespace {
-
-/// The options' rules are those of a project that does not say which are its own.
-Result<ProjectOpening> settledOpening(FileReading& files, const ProjectOpening& wanted) {
-  const ReadingWish wish = {{}, {}, wanted.options.rules};
-  Result<ReadingChoice> choice = readingChoice(files, wanted.directory, wish, absoluteUrl);
-  if (!choice) return choice.error();
-  ProjectOpening settled = {choice.value().directory, wanted.options};
-  settled.options.rules = choice.value().rules;
-  settled.options.xcode = std::move(choice.value().xcode);
-  return settled;
-}
-
-}  // namespace
 
 DesktopProgram::DesktopProgram(OwnTexts texts)
     : m_bundle(std::move(texts)),
@@ -36,12 +23,12 @@ DesktopProgram::DesktopProgram(OwnTexts texts)
                   m_systemLog, m_bundle, m_application, m_saves}),
       m_quitPath(m_delegate, m_threads, m_panels, m_application) {
   setUpHandlers();
+  setUpRules();
   ProjectOptions options;
   options.keepsJournal = true;
   options.command = "window";
   options.version = fromQt(QApplication::applicationVersion());
   m_delegate.setProjectOptions(options);
-  m_delegate.setSettingsReader([this](const ProjectOpening& wanted) { return settledOpening(m_files, wanted); });
 }
 
 /// Jobs use the project, so they end before it goes.
@@ -60,11 +47,34 @@ void DesktopProgram::setUpHandlers() {
   m_actions.setHandler(CommandId::About, [this] { showAbout(QApplication::activeWindow(), m_bundle); });
 }
 
+void DesktopProgram::setUpRules() {
+  m_delegate.setSettingsReader(
+      [this](const ProjectOpening& wanted) { return settledOpening(wanted); });
+  m_delegate.setRulesKeeper([this](const ProjectWindowController& project, RuleSet rules) {
+    const Outcome kept = keepRules(m_delegate.host(), project.projectDirectory(), project.projectOptions(), rules);
+    if (kept) m_typedRules.reset();
+    return kept;
+  });
+}
+
+Result<ProjectOpening> DesktopProgram::settledOpening(
+    const ProjectOpening& wanted) {
+  const FileUrl directory = projectDirectoryOf(m_files, wanted.directory);
+  const ReadingWish wish = {m_typedRules, {}, rememberedRules(m_defaults, directory)};
+  Result<ReadingChoice> choice = readingChoice(m_files, wanted.directory, wish, absoluteUrl);
+  if (!choice) return choice.error();
+  ProjectOpening settled = {choice.value().directory, wanted.options};
+  settled.options.rules = choice.value().rules;
+  settled.options.xcode = std::move(choice.value().xcode);
+  return settled;
+}
+
 bool DesktopProgram::isRecentItemEnabled(int tag) const {
   return !m_actions.isCovered() && m_delegate.validateMenuItem(tag);
 }
 
-void DesktopProgram::start(const std::optional<FileUrl>& directory) {
+void DesktopProgram::start(const std::optional<FileUrl>& directory, std::optional<RuleSet> rules) {
+  m_typedRules = rules;
   m_panels.presetDirectory(directory);
   m_delegate.applicationDidFinishLaunching();
   m_panels.presetDirectory(std::nullopt);

@@ -33,8 +33,9 @@ class DesktopProgram {
   DesktopProgram(const DesktopProgram&) = delete;
   DesktopProgram& operator=(const DesktopProgram&) = delete;
 
-  /// Opens the windows, and the directory if one is given; else asks for one, which runs an event loop of its own.
-  void start(const std::optional<FileUrl>& directory);
+  /// Opens the windows, and the directory if one is given; else asks for one, which runs an event loop of its own. The
+  /// rules come before all others until some are chosen in the window.
+  void start(const std::optional<FileUrl>& directory, std::optional<RuleSet> rules = std::nullopt);
 
   AppDelegate& delegate() { return m_delegate; }
   DesktopApplication& application() { return m_application; }
@@ -48,6 +49,8 @@ class DesktopProgram {
  private:
   bool isRecentItemEnabled(int tag) const;
   void setUpHandlers();
+  void setUpRules();
+  Result<ProjectOpening> settledOpening(const ProjectOpening& wanted);
 
   EmbeddedBundle m_bundle;
   PosixFiles m_files;
@@ -63,6 +66,7 @@ class DesktopProgram {
   RecentMenu m_recentMenu;
   CommandActions m_actions;
   WidgetInterfaceFiles m_interfaces;
+  std::optional<RuleSet> m_typedRules;
   AppDelegate m_delegate;  ///< owns the windows, so everything that they use stands above
   QuitPath m_quitPath;
   FocusRing m_focusRing;

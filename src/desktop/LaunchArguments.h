@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "model/ProjectOptions.h"
 #include "platform/FileUrl.h"
 
 namespace glossmill {
@@ -10,6 +11,7 @@ namespace glossmill {
 /// What the program was started with. An answer or a complaint is to be printed, and no window opens.
 struct LaunchArguments {
   std::optional<FileUrl> directory;
+  std::optional<RuleSet> rules;
   std::string answer;     ///< for the standard output
   std::string complaint;  ///< for the standard error stream
 };

@@ -23,7 +23,7 @@ int main(int argc, char** argv) {
   glossmill::DesktopProgram program(
       glossmill::setUpApplication(application, QLocale::system().uiLanguages(), GLOSSMILL_VERSION));
   const glossmill::EndSignals signals([&program](int signal) { program.quitPath().endAtOnce(128 + signal); });
-  QTimer::singleShot(0, [&] { program.start(launch.directory); });
+  QTimer::singleShot(0, [&] { program.start(launch.directory, launch.rules); });
   const int result = QApplication::exec();
   program.delegate().applicationWillTerminate();
   return result;

@@ -72,13 +72,21 @@ void SelectLanguageWindowController::search(std::string_view text) {
   });
 }
 
+std::vector<std::string> SelectLanguageWindowController::chosenTables() const {
+  std::vector<std::string> ids;
+  for (const Table& table : m_tables) {
+    if (table.isChosen) ids.push_back(table.id);
+  }
+  return ids;
+}
+
 void SelectLanguageWindowController::doubleClickTableView() {
   if (m_languageController.selectedRow()) done();
 }
 
 void SelectLanguageWindowController::done() {
   const std::shared_ptr<Language> chosen = m_languageController.selectedObject();
-  if (!chosen) return;
+  if (!chosen || !canBeDone()) return;
   endSheet();
   if (m_delegate) m_delegate->selectLanguageWindowControllerDidSelect(*this, chosen);
 }

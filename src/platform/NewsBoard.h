@@ -14,6 +14,7 @@ struct NewsAction {
 };
 
 enum class NewsKind {
+  Offer,    ///< nothing is the matter: it waits until nobody has other news
   Note,     ///< good to know
   Warning,  ///< something is, or would be, lost
 };

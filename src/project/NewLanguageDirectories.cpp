@@ -11,11 +11,11 @@ bool holds(const List& list, const Value& value) {
   return std::find(list.begin(), list.end(), value) != list.end();
 }
 
+}  // namespace
+
 bool isTranslated(const StringsTable& table) {
   return table.hasCalls || table.files.size() >= 2;
 }
-
-}  // namespace
 
 std::vector<FileUrl> newLanguageDirectories(const StringsTables& tables, std::string_view code,
                                             const std::vector<std::string>& tableIds) {

@@ -84,6 +84,7 @@ class ProjectParts {
   ProjectObservers m_observers;
 
   FileUrl m_projectDirectory;
+  ProjectOpening m_opening;  ///< as it was wanted
   ProjectOptions m_options;
   SettingsReader m_settingsReader;
   const ProjectRules* m_rules;  ///< those of the options

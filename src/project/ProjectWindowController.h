@@ -87,6 +87,8 @@ class ProjectWindowController : public ProjectContext,
   bool openProjectAt(const FileUrl& directory, const ProjectOptions& options = {});
   /// Asked before each scan; an error is told in an alert, and nothing is read.
   void setSettingsReader(SettingsReader reader) { m_settingsReader = std::move(reader); }
+  /// What the user has opened: the project's directory, or a package in it.
+  const FileUrl& openedAs() const { return m_opening.directory; }
   /// By which rules, and how else, the project was opened.
   const ProjectOptions& projectOptions() const { return m_options; }
   /// Reads the open project anew, selects again what was selected, and applies the edits again that no save wrote, but
@@ -96,7 +98,9 @@ class ProjectWindowController : public ProjectContext,
   /// Whether nothing is lost by that, or may be, which is asked.
   bool mayReadAnew();
   /// The same without a question.
-  void readAnew();
+  void readAnew() { readAnew(m_opening.directory); }
+  /// As what the user opens it from now on.
+  void readAnew(const FileUrl& opened);
   bool parseProject();
   /// The sheet's cancel button.
   void longTimeCanceled() { m_longJob.cancel(); }
@@ -185,7 +189,9 @@ class ProjectWindowController : public ProjectContext,
   void saveProjectButton() { saveProject(); }
   /// What became of the last save.
   const SaveReport& lastSave() const { return m_lastSave; }
-  /// Asks what to do about unsaved changes. False when the project stays open.
+  /// Asks what to do about unsaved changes, and does it. False when everything is to stay as it is.
+  bool settleChanges();
+  /// The same, and nothing of the project is left. False when it stays open.
   bool closeProject();
   void closeProjectButton() { closeProject(); }
 
@@ -215,7 +221,8 @@ class ProjectWindowController : public ProjectContext,
 
   // ---- Tables, under rules that have them: ProjectWindowControllerTables.cpp ----
 
-  /// The edits that take out what nothing uses, to be looked at before removeEntries().
+  /// The edits that take out what nothing uses, also where the filter holds it back, to be looked at before
+  /// removeEntries().
   std::vector<Edit> unusedEntries(const LanguageArray& languages) const;
   void removeEntries(const std::vector<Edit>& edits);
   /// Makes the directories of a new language beside those of the tables named, or of all that are translated. Null when
@@ -279,7 +286,7 @@ class ProjectWindowController : public ProjectContext,
   void showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name);
   void chooseExportFile(std::shared_ptr<Language> language, ExportScope scope);
   void chooseImportFile(std::shared_ptr<Language> language);
-  std::shared_ptr<Language> addChosenLanguage(const Language& chosen);
+  std::shared_ptr<Language> addChosenLanguage(const Language& chosen, const std::vector<std::string>& tableIds = {});
   FileUrl newLanguageParent();
   bool createLanguageDirectory(const Language& language);
   bool applyImport(const ImportPlan& plan, ImportReport& report);

@@ -2,11 +2,26 @@
 #include "dialogs/LanguageWindowController.h"
 #include "dialogs/SelectLanguageWindowController.h"
 #include "exchange/ExchangeFormat.h"
+#include "project/NewLanguageDirectories.h"
 #include "project/ProjectWindowController.h"
 #include "safety/ProjectBounds.h"
 #include "text/Format.h"
 
 namespace glossmill {
+
+namespace {
+
+/// Those that a new language can be made for, where there are several.
+std::vector<SelectLanguageWindowController::Table> tablesToChoose(const StringsTables& tables) {
+  std::vector<SelectLanguageWindowController::Table> offered;
+  for (const std::shared_ptr<StringsTable>& table : tables) {
+    if (!table->directory.empty()) offered.push_back({table->id, isTranslated(*table)});
+  }
+  if (offered.size() < 2) offered.clear();
+  return offered;
+}
+
+}  // namespace
 
 void ProjectWindowController::exportStrings() {
   showChooser(m_exportLanguageWindowController, "ExportLanguageWindowController");
@@ -61,6 +76,7 @@ void ProjectWindowController::addLanguage() {
   if (!m_selectLanguageWindowController) {
     m_selectLanguageWindowController =
         std::make_shared<SelectLanguageWindowController>(m_host, languagesList(), m_iso639Dict);
+    m_selectLanguageWindowController->setTables(tablesToChoose(m_tables));
   }
   m_selectLanguageWindowController->setDelegate(this);
   m_host.sheets.beginSheet(m_selectLanguageWindowController->window(), [this] { didEndSelectLanguageWindowSheet(); });
@@ -72,9 +88,9 @@ void ProjectWindowController::didEndSelectLanguageWindowSheet() {
   m_selectLanguageWindowController = nullptr;
 }
 
-void ProjectWindowController::selectLanguageWindowControllerDidSelect(SelectLanguageWindowController&,
+void ProjectWindowController::selectLanguageWindowControllerDidSelect(SelectLanguageWindowController& dialog,
                                                                       std::shared_ptr<Language> chosen) {
-  if (chosen) addChosenLanguage(*chosen);
+  if (chosen) addChosenLanguage(*chosen, dialog.chosenTables());
 }
 
 std::shared_ptr<Language> ProjectWindowController::addLanguage(std::string_view code) {
@@ -83,9 +99,10 @@ std::shared_ptr<Language> ProjectWindowController::addLanguage(std::string_view 
 }
 
 /// Without a project directory the new one would be made at the root of the disk.
-std::shared_ptr<Language> ProjectWindowController::addChosenLanguage(const Language& chosen) {
+std::shared_ptr<Language> ProjectWindowController::addChosenLanguage(const Language& chosen,
+                                                                     const std::vector<std::string>& tableIds) {
   if (m_projectDirectory.empty()) return nullptr;
-  if (m_options.rules == RuleSet::Xcode) return addLanguageToTables(chosen.iso639());
+  if (m_options.rules == RuleSet::Xcode) return addLanguageToTables(chosen.iso639(), tableIds);
   const auto language = std::make_shared<Language>(chosen);
   const FileUrl directory = newLanguageParent().appending(formatText("%@.lproj", {language->iso639()}));
   language->setLocalizedStringUrl(directory);

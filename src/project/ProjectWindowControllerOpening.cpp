@@ -24,8 +24,8 @@ bool ProjectWindowController::openProjectAt(const FileUrl& directory, const Proj
 }
 
 bool ProjectWindowController::startScan(const FileUrl& directory, const ProjectOptions& options) {
-  const ProjectOpening wanted{directory, options};
-  const Result<ProjectOpening> settled = m_settingsReader ? m_settingsReader(wanted) : wanted;
+  m_opening = {directory, options};
+  const Result<ProjectOpening> settled = m_settingsReader ? m_settingsReader(m_opening) : m_opening;
   if (!settled) {
     runOkAlert(settled.error().sentence);
     return false;

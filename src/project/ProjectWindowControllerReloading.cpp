@@ -36,13 +36,13 @@ bool ProjectWindowController::mayReadAnew() {
   return m_host.panels.runAlert(question) == AlertAnswer::Alternate;
 }
 
-void ProjectWindowController::readAnew() {
+void ProjectWindowController::readAnew(const FileUrl& opened) {
   const std::shared_ptr<LocalizeString> string = selectedString();
   const std::shared_ptr<Language> language = selectedLanguage();
   BeforeReading before{string ? string->name() : "", language ? language->iso639() : "", m_unsaved.all()};
   clearProject();
   m_before = std::move(before);
-  startScan(m_projectDirectory, m_options);
+  startScan(FileUrl(opened), ProjectOptions(m_opening.options));
 }
 
 void ProjectWindowController::goOnAsBefore() {

@@ -128,14 +128,17 @@ std::string ProjectWindowController::newTableFileText(const FileUrl& file, const
                     {file.lastPathComponent(), language, file.path()});
 }
 
-bool ProjectWindowController::closeProject() {
+bool ProjectWindowController::settleChanges() {
   if (m_window.loaded) m_window.outlets.window->clearFirstResponder();
-  if (m_changed) {
-    const AlertAnswer answer = askToSave();
-    if (answer == AlertAnswer::Other) return false;
-    if (answer == AlertAnswer::Default && !saveProject()) return false;
-    if (answer == AlertAnswer::Alternate) m_unsaved.discard();
-  }
+  if (!m_changed) return true;
+  const AlertAnswer answer = askToSave();
+  if (answer == AlertAnswer::Other) return false;
+  if (answer == AlertAnswer::Alternate) m_unsaved.discard();
+  return answer == AlertAnswer::Alternate || saveProject();
+}
+
+bool ProjectWindowController::closeProject() {
+  if (!settleChanges()) return false;
   clearProject();
   return true;
 }

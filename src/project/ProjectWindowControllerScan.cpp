@@ -58,7 +58,7 @@ void ProjectWindowController::installResult(ScanRun& scan) {
   goOnAsBefore();
   m_window.outlets.window->makeKeyAndOrderFront();
   m_window.outlets.window->setOrderedIndex(0);
-  m_application.saveRecent(m_projectDirectory.path());
+  m_application.saveRecent(m_opening.directory.path());
   m_observers.tell(ProjectMoment::Opened);
 }
 

@@ -36,7 +36,9 @@ bool ProjectWindowController::placeTable(StringsTable& table) {
 }
 
 std::vector<Edit> ProjectWindowController::unusedEntries(const LanguageArray& languages) const {
-  return editsOfUnused(stringList(), languages);
+  StringArray all = stringList();
+  all.insert(all.end(), m_filteredStringList.begin(), m_filteredStringList.end());
+  return editsOfUnused(all, languages);
 }
 
 void ProjectWindowController::removeEntries(const std::vector<Edit>& edits) {

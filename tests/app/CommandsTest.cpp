@@ -45,6 +45,9 @@ TEST(Commands, CarryTheTagsThatEnableThem) {
                                                 {CommandId::SaveAll, 18},
                                                 {CommandId::GoToMessage, 20},
                                                 {CommandId::SavedVersions, 21},
+                                                {CommandId::UseClassicRules, 2},
+                                                {CommandId::UseXcodeRules, 2},
+                                                {CommandId::RemoveUnused, 22},
                                                 {CommandId::Quit, 0}};
   for (const auto& [id, tag] : expected) EXPECT_EQ(command(id).tag, tag) << command(id).title;
 }
@@ -67,13 +70,14 @@ TEST(Commands, HaveMnemonicsOfTheirOwnInEachMenu) {
     EXPECT_NE(mnemonicOf(each.title), '\0') << each.title;
     EXPECT_TRUE(seen.insert({each.menu, mnemonicOf(each.title)}).second) << each.title;
   }
-  for (const MenuId menu : {MenuId::File, MenuId::Edit, MenuId::Go, MenuId::Windows, MenuId::Help}) {
+  for (const MenuId menu : glossmill::menus()) {
     EXPECT_TRUE(menus.insert(mnemonicOf(menuTitle(menu))).second) << menuTitle(menu);
   }
 }
 
-TEST(Commands, NameTheRecentMenuAfterTheirEntryForIt) {
+TEST(Commands, NameSubmenusAfterTheirEntriesForThem) {
   EXPECT_EQ(menuTitle(MenuId::Recent), command(CommandId::OpenRecent).title);
+  EXPECT_EQ(menuTitle(MenuId::Rules), command(CommandId::ChooseRules).title);
 }
 
 TEST(Commands, OfTheToolBarAreCommandsOfTheMenusWithAnAction) {

@@ -22,6 +22,18 @@ TEST(NewsQueue, OnePieceIsShownAndTheOthersWaitInTheirOrder) {
   EXPECT_EQ(queue.current(), nullptr);
 }
 
+TEST(NewsQueue, AnOfferWaitsBehindAllTheRest) {
+  NewsQueue queue;
+  queue.post({"offer", "text", {}, NewsKind::Offer});
+  EXPECT_EQ(queue.current()->id, "offer");
+  for (const char* id : {"a", "b"}) queue.post(news(id));
+  EXPECT_EQ(queue.current()->id, "a");
+  queue.dismiss();
+  EXPECT_EQ(queue.current()->id, "b");
+  queue.dismiss();
+  EXPECT_EQ(queue.current()->id, "offer");
+}
+
 TEST(NewsQueue, NewerNewsOfAKindTakesThePlaceOfOlder) {
   NewsQueue queue;
   queue.post(news("a"));

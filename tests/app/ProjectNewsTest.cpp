@@ -38,7 +38,7 @@ class ProjectNewsTest : public testing::Test {
   ProjectWindowController& project() { return m_test.project(); }
   std::string text() {
     const News* news = m_test.application.news().current();
-    return news ? news->text : "";
+    return news && news->kind != NewsKind::Offer ? news->text : "";
   }
   std::vector<std::string> buttons() {
     std::vector<std::string> titles;

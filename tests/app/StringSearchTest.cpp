@@ -16,7 +16,8 @@ class StringSearchTest : public testing::Test {
     m_test.addLanguage("fr", "\"Open\" = \"Ouvrir\";\n\"Good night\" = \"BONNE NUIT\";\n");
     m_test.open();
     m_test.select("Open", "de");
-    m_search.emplace(m_test.project());
+    m_view.emplace(m_test.project().stringController());
+    m_search.emplace(m_test.project(), *m_view);
   }
 
   using Keys = std::vector<std::string>;
@@ -34,9 +35,11 @@ class StringSearchTest : public testing::Test {
   void selectLanguage(std::string_view code) {
     m_test.select(selected(), code);
     m_search->translationsChanged();
+    m_view->refresh();
   }
 
   TestProject m_test;
+  std::optional<ViewFilter> m_view;
   std::optional<StringSearch> m_search;
 };
 

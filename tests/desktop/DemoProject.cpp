@@ -17,6 +17,21 @@ NSLocalizedString(@"First line
 second line", @"");
 )";
 
+/// All that lies in the folder App belongs to it.
+constexpr const char* kFolderProject = R"(// !$*UTF8*$!
+{
+  objects = {
+    P = { isa = PBXProject; mainGroup = G; targets = (T); developmentRegion = en; };
+    G = { isa = PBXGroup; children = (F); sourceTree = "<group>"; };
+    F = { isa = PBXFileSystemSynchronizedRootGroup; path = App; sourceTree = "<group>"; };
+    T = { isa = PBXNativeTarget; name = App; buildPhases = (TS, TR); fileSystemSynchronizedGroups = (F); };
+    TS = { isa = PBXSourcesBuildPhase; files = (); };
+    TR = { isa = PBXResourcesBuildPhase; files = (); };
+  };
+  rootObject = P;
+}
+)";
+
 }  // namespace
 
 DemoProject::DemoProject() {
@@ -39,6 +54,20 @@ void DemoProject::write(const QString& name, const QByteArray& bytes) const {
 QByteArray DemoProject::read(const QString& name) const {
   QFile source(file(name));
   return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+}
+
+void DemoProject::giveTables() const {
+  write(QStringLiteral(".glossmill.json"), R"({"rules": "xcode"})");
+  write(QStringLiteral("Demo.xcodeproj/project.pbxproj"), kFolderProject);
+  write(QStringLiteral("App/Deck.m"),
+        "NSLocalizedString(@\"Ebb\", @\"Falling\"); NSLocalizedString(@\"Flood\", @\"Rising\");\n"
+        "NSLocalizedString(@\"Tide\", nil); NSLocalizedStringFromTable(@\"Sail\", @\"Menu\", nil);\n");
+  write(QStringLiteral("App/en.lproj/Localizable.strings"),
+        "\"Ebb\" = \"Ebb\";\n\"Flood\" = \"Flood tide\";\n\"Tide\" = \"Tide\";\n\"Old\" = \"Old\";\n");
+  write(QStringLiteral("App/de.lproj/Localizable.strings"),
+        "\"Ebb\" = \"Ebbe\";\n\"Tide\" = \"Gezeiten\";\n\"Old\" = \"Alt\";\n");
+  write(QStringLiteral("App/en.lproj/Menu.strings"), "\"Sail\" = \"Sail\";\n");
+  write(QStringLiteral("App/de.lproj/Menu.strings"), "\"Sail\" = \"Segeln\";\n");
 }
 
 void DemoProject::growBy(int strings) const {

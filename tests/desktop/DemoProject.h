@@ -18,6 +18,10 @@ class DemoProject {
   void write(const QString& name, const QByteArray& bytes) const;
   QByteArray read(const QString& name) const;
 
+  /// Makes it one that is read by xcode's rules, with the tables App/Localizable (calls of Ebb, Flood and Tide; Old is
+  /// unused) and App/Menu (a call of Sail) in de and en. German lacks Flood.
+  void giveTables() const;
+
   /// Gives the project this many more strings, "string 0" and so on, with as many entries of de without a match.
   void growBy(int strings) const;
 

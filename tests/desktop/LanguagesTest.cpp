@@ -1,4 +1,5 @@
 #include <QDir>
+#include <QListWidget>
 #include <QSettings>
 
 #include "desktop/DesktopFixture.h"
@@ -46,6 +47,36 @@ class LanguagesTest : public DesktopFixture {
     select(languages(), QStringLiteral("en"));
     select(languages(), QStringLiteral("de"));
     QCOMPARE(editor().toPlainText(), QStringLiteral("behind its back"));
+  }
+
+  void makesALanguageForTheTablesThatAreChosen() {
+    demo().giveTables();
+    demo().write(QStringLiteral("App/Help/en.lproj/Help.strings"), "\"Topic\" = \"Topic\";\n");
+    openDemo();
+    press(Qt::Key_L, Qt::ControlModifier);
+    auto& tables = inSheet<QListWidget>("tablesList");
+    QVERIFY(tables.isVisible());
+    QStringList checked;
+    for (int row = 0; row < tables.count(); ++row) {
+      if (tables.item(row)->checkState() == Qt::Checked) checked.append(tables.item(row)->text());
+    }
+    QCOMPARE(checked, QStringList({QStringLiteral("App/Localizable"), QStringLiteral("App/Menu")}));
+    QCOMPARE(tables.count(), 3);
+    for (int row = 0; row < tables.count(); ++row) tables.item(row)->setCheckState(Qt::Unchecked);
+    QVERIFY(!inSheet<QPushButton>("doneButton").isEnabled());
+    tables.findItems(QStringLiteral("App/Help/Help"), Qt::MatchExactly).front()->setCheckState(Qt::Checked);
+    field().setText(QStringLiteral("FREN"));
+    click(inSheet<QPushButton>("doneButton"));
+    QVERIFY(!isSheetUp());
+    QVERIFY(QDir(demo().file(QStringLiteral("App/Help/fr.lproj"))).exists());
+    QVERIFY(!QDir(demo().file(QStringLiteral("App/fr.lproj"))).exists());
+  }
+
+  void asksForNoTablesWhereThereIsOne() {
+    openDemo();
+    press(Qt::Key_L, Qt::ControlModifier);
+    QVERIFY(!inSheet<QListWidget>("tablesList").isVisible());
+    press(Qt::Key_Escape);
   }
 
   void findsByCodeToo() {

@@ -166,6 +166,8 @@ class OpeningTest : public DesktopFixture {
     press(Qt::Key_L, Qt::ControlModifier);
     press(Qt::Key_Escape);
     program().delegate().openLogWindow();
+    command(CommandId::UseXcodeRules).trigger();
+    waitForJob();
     startAnew();
     std::set<SettingId> stored;
     for (const QString& key : QSettings().allKeys()) {

@@ -66,9 +66,7 @@ QStringList keysOfCommands() {
   QStringList keys{toQt(kOpenAProjectFirst)};
   for (const Command& command : commands()) keys.append(toQt(command.title));
   for (const ToolBarItem& item : toolBarItems()) keys.append(toQt(item.title));
-  for (const MenuId menu : {MenuId::File, MenuId::Recent, MenuId::Edit, MenuId::Go, MenuId::Windows, MenuId::Help}) {
-    keys.append(toQt(menuTitle(menu)));
-  }
+  for (const MenuId menu : menus()) keys.append(toQt(menuTitle(menu)));
   return keys;
 }
 

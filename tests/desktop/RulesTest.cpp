@@ -1,3 +1,5 @@
+#include <QFileDialog>
+
 #include "desktop/DesktopFixture.h"
 #include "desktop/TestClasses.h"
 
@@ -78,9 +80,148 @@ class RulesTest : public DesktopFixture {
     QVERIFY(!project().longJobRunning());
   }
 
+  void isChangedInTheMenuAndRemembered() {
+    writeProject();
+    openDemo();
+    QVERIFY(command(CommandId::UseClassicRules).isChecked());
+    QCOMPARE(strings().model()->rowCount(), 0);
+    command(CommandId::UseXcodeRules).trigger();
+    waitForJob();
+    QCOMPARE(strings().model()->rowCount(), 2);
+    QVERIFY(isEnabled(CommandId::UseXcodeRules));
+    QVERIFY(command(CommandId::UseXcodeRules).isChecked());
+    QVERIFY(!command(CommandId::UseClassicRules).isChecked());
+    startAnew();
+    openDemo();
+    QCOMPARE(project().projectOptions().rules, RuleSet::Xcode);
+    QCOMPARE(strings().model()->rowCount(), 2);
+  }
+
+  void isWrittenToTheFileOfAProjectThatHasOne() {
+    openByXcode();
+    command(CommandId::UseClassicRules).trigger();
+    waitForJob();
+    QCOMPARE(project().projectOptions().rules, RuleSet::Classic);
+    QCOMPARE(demo().read(QStringLiteral(".glossmill.json")), QByteArray(R"({"rules": "classic"})"));
+    startAnew();
+    openDemo();
+    QCOMPARE(project().projectOptions().rules, RuleSet::Classic);
+  }
+
+  void thatAreTypedComeFirstUntilOthersAreChosen() {
+    openByXcode();
+    startAnew();
+    program().start(FileUrl(fromQt(demo().directory())), RuleSet::Classic);
+    waitForJob();
+    QCOMPARE(project().projectOptions().rules, RuleSet::Classic);
+    QVERIFY(project().reloadProject());
+    waitForJob();
+    QCOMPARE(project().projectOptions().rules, RuleSet::Classic);
+    command(CommandId::UseXcodeRules).trigger();
+    waitForJob();
+    QCOMPARE(project().projectOptions().rules, RuleSet::Xcode);
+  }
+
+  void isOfferedInTheBar() {
+    writeProject();
+    openDemo();
+    QVERIFY(widget<QWidget>("newsBar").isVisible());
+    QCOMPARE(widget<QLabel>("newsText").text(),
+             QStringLiteral("7 entries match no call. Xcode's rules may read more of this project."));
+    QVERIFY(isEnabled(CommandId::GoToMessage));
+    press(Qt::Key_F6);
+    press(Qt::Key_Return);
+    waitForJob();
+    QCOMPARE(project().projectOptions().rules, RuleSet::Xcode);
+    QVERIFY(!widget<QWidget>("newsBar").isVisible());
+  }
+
+  void opensAPackageAsItsDirectoryWithThatPackage() {
+    openByXcode();
+    demo().write(QStringLiteral("Other.xcodeproj/project.pbxproj"), kProjectFile);
+    startAnew();
+    const QString package = demo().file(QStringLiteral("Demo.xcodeproj"));
+    startWith(package);
+    waitForJob();
+    QCOMPARE(toQt(project().projectDirectory().path()), demo().directory());
+    QCOMPARE(project().packages().size(), std::size_t{1});
+    QCOMPARE(strings().model()->rowCount(), 2);
+    QCOMPARE(toQt(program().delegate().recentArray().front()), package);
+    QVERIFY(project().reloadProject());
+    waitForJob();
+    QCOMPARE(project().packages().size(), std::size_t{1});
+    command(CommandId::UseClassicRules).trigger();
+    waitForJob();
+    QCOMPARE(toQt(project().projectDirectory().path()), demo().directory());
+    QVERIFY(project().projectPackage());
+  }
+
+  void leavesNothingToRecoverOfWhatWasSaved() {
+    openByXcode();
+    select(languages(), QStringLiteral("de"));
+    select(strings(), QStringLiteral("Two\u21B5lines"));
+    editor().setFocus();
+    editor().setPlainText(QStringLiteral("Zwei"));
+    project().flushEdits();
+    startAnew();
+    openDemo();
+    QCOMPARE(project().recoverableEdits().size(), std::size_t{1});
+    click(*widget<QWidget>("newsBar").findChild<QPushButton*>());
+    QCOMPARE(editor().toPlainText(), QStringLiteral("Zwei"));
+    QVERIFY(project().saveProject());
+    startAnew();
+    openDemo();
+    QCOMPARE(project().recoverableEdits().size(), std::size_t{0});
+    QVERIFY(!widget<QWidget>("newsBar").isVisible());
+  }
+
+  void asksWhereTheFilesOfANewTableGo() {
+    writeProject();
+    demo().write(QStringLiteral(".glossmill.json"), R"({"rules": "xcode"})");
+    demo().write(QStringLiteral("App/Sail.m"), "NSLocalizedStringFromTable(@\"Jib\", @\"Sails\", nil);");
+    openDemo();
+    select(languages(), QStringLiteral("de"));
+    select(strings(), QStringLiteral("Jib"));
+    editor().setFocus();
+    editor().setPlainText(QStringLiteral("Fock"));
+    QString title;
+    answerPanel([&](QFileDialog& panel) {
+      title = panel.windowTitle();
+      panel.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(demo().file(QStringLiteral("App")));
+      QTest::keyClick(&panel, Qt::Key_Return);
+    });
+    answerAlert(QStringLiteral("Ok"));
+    QVERIFY(project().saveProject());
+    QCOMPARE(title, QStringLiteral("Choose the directory for the files of the table Sails"));
+    QCOMPARE(demo().read(QStringLiteral("App/de.lproj/Sails.strings")), QByteArray("\"Jib\" = \"Fock\";\n"));
+    QVERIFY(alerts().value(0).startsWith(QStringLiteral("Created a new Sails.strings for language German at:")));
+    QVERIFY(alerts().value(0).contains(QStringLiteral("Add it to the project in Xcode")));
+    QVERIFY(!window().isWindowModified());
+  }
+
+  void keepsTheEditsOfATableThatGetsNoDirectory() {
+    writeProject();
+    demo().write(QStringLiteral(".glossmill.json"), R"({"rules": "xcode"})");
+    demo().write(QStringLiteral("App/Sail.m"), "NSLocalizedStringFromTable(@\"Jib\", @\"Sails\", nil);");
+    openDemo();
+    select(strings(), QStringLiteral("Jib"));
+    editor().setFocus();
+    editor().setPlainText(QStringLiteral("Fock"));
+    answerPanel([](QFileDialog& panel) { panel.reject(); });
+    answerAlert(QStringLiteral("Ok"));
+    QVERIFY(!project().saveProject());
+    QCOMPARE(alerts(), QStringList{QStringLiteral("The table Sails was not saved")});
+    QVERIFY(window().isWindowModified());
+  }
+
  private:
   void openByXcode() {
     demo().write(QStringLiteral(".glossmill.json"), R"({"rules": "xcode"})");
+    writeProject();
+    openDemo();
+  }
+
+  void writeProject() {
     demo().write(QStringLiteral("Demo.xcodeproj/project.pbxproj"), kProjectFile);
     demo().write(QStringLiteral("App/Deck.m"),
                  "NSLocalizedString(@\"Two\\nlines\", nil); NSLocalizedString(@\"Say \\\"yes\\\"\", nil);");
@@ -88,7 +229,6 @@ class RulesTest : public DesktopFixture {
                  "\"Say \\\"yes\\\"\" = \"Say \\\"yes\\\"\";\n\"Two\\nlines\" = \"Two\\nlines\";\n");
     demo().write(QStringLiteral("App/de.lproj/Localizable.strings"),
                  "/* Kopf */\n\"Say \\\"yes\\\"\" = \"Sag \\\"ja\\\"\"; // bleibt\n");
-    openDemo();
   }
 };
 

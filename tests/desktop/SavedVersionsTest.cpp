@@ -20,9 +20,11 @@ class SavedVersionsTest : public DesktopFixture {
     m_before = demo().read(m_german);
     openDemo();
   }
+  /// But for the offer of other rules, which waits behind everything else.
   QString news() {
     QCoreApplication::processEvents();
-    return widget<QWidget>("newsBar").isVisible() ? widget<QLabel>("newsText").text() : QString();
+    const QString text = widget<QWidget>("newsBar").isVisible() ? widget<QLabel>("newsText").text() : QString();
+    return text.contains(QStringLiteral("Xcode's rules")) ? QString() : text;
   }
   QDialog* versions() {
     for (QWidget* each : QApplication::topLevelWidgets()) {

@@ -134,11 +134,18 @@ class TextsTest : public QObject {
     };
     QVERIFY(!read({}).directory && read({}).answer.empty() && read({}).complaint.empty());
     QCOMPARE(read({"--version"}).answer, std::string("glossmill 1.2\n"));
-    QVERIFY(read({"--help"}).answer.starts_with("Usage: glossmill [DIR]\n"));
+    QVERIFY(read({"--help"}).answer.starts_with("Usage: glossmill [--rules RULES] [DIR]\n"));
     QCOMPARE(read({"/"}).directory->path(), std::string("/"));
     QCOMPARE(read({"/usr/../usr/"}).directory->path(), std::string("/usr"));
     QCOMPARE(read({"/no/such"}).complaint, std::string("glossmill: there is no directory /no/such\n"));
     QVERIFY(!read({"/no/such"}).directory);
+    QCOMPARE(read({"--rules", "xcode", "/"}).rules, std::optional(RuleSet::Xcode));
+    QCOMPARE(read({"--rules", "xcode", "/"}).directory->path(), std::string("/"));
+    QCOMPARE(read({"/", "--rules=classic"}).rules, std::optional(RuleSet::Classic));
+    QVERIFY(!read({"/"}).rules);
+    for (const auto& wrong : {std::vector{"--rules"}, std::vector{"--rules", "other"}, std::vector{"--rules="}}) {
+      QCOMPARE(read(wrong).complaint, std::string("glossmill: --rules takes classic or xcode\n"));
+    }
   }
 };
 

@@ -1,6 +1,7 @@
 #include "desktop/sheets/SelectLanguageInterface.h"
 
 #include "app/DisplayTransformers.h"
+#include "desktop/host/ForeignText.h"
 #include "desktop/host/QtText.h"
 #include "desktop/look/Icons.h"
 #include "desktop/tables/IsoColumns.h"
@@ -23,6 +24,22 @@ SelectLanguageInterface::SelectLanguageInterface(SelectLanguageWindowController&
   m_widgets.searchField->addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
   new ListKeys(*m_widgets.searchField, *m_widgets.tableView);
   connectControls();
+  setUpTables();
+}
+
+void SelectLanguageInterface::setUpTables() {
+  QListWidget& list = *m_widgets.tablesList;
+  for (const auto& [id, isChosen] : m_dialog.tables()) {
+    auto* item = new QListWidgetItem(shownText(id), &list);
+    item->setCheckState(isChosen ? Qt::Checked : Qt::Unchecked);
+  }
+  if (list.count() > 0) list.setCurrentRow(0);
+  m_widgets.tablesLabel->setVisible(list.count() > 0);
+  list.setVisible(list.count() > 0);
+  QObject::connect(&list, &QListWidget::itemChanged, &m_table, [this, &list](const QListWidgetItem* item) {
+    m_dialog.chooseTable(static_cast<std::size_t>(list.row(item)), item->checkState() == Qt::Checked);
+    m_widgets.doneButton->setEnabled(m_dialog.canBeDone());
+  });
 }
 
 void SelectLanguageInterface::connectControls() {

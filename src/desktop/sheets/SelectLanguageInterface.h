@@ -22,6 +22,7 @@ class SelectLanguageInterface : public LoadedInterface {
   void search(const QString& text);
   void selectSomething();
   void showCount();
+  void setUpTables();
 
   SelectLanguageWindowController& m_dialog;
   const Bundle& m_bundle;

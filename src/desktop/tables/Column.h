@@ -26,6 +26,7 @@ struct Column {
 
   // What most columns do without, to be added where a column is listed.
   Column takingTheRest() { return fit = ColumnFit::Rest, *this; }
+  Column shownAt(int number) { return place = number, *this; }
   Column colored(Of<Color> colorOf) { return color = std::move(colorOf), *this; }
   Column aligned(std::function<Qt::Alignment()> towards) { return alignment = std::move(towards), *this; }
   Column asBar(Of<int> percentOf) { return percent = std::move(percentOf), *this; }
@@ -33,6 +34,7 @@ struct Column {
   std::string_view title;  ///< English, key of the program's texts; may be empty
   int width;               ///< pixels
   ColumnFit fit = ColumnFit::Width;
+  int place = -1;  ///< from the left, where it is another than among the columns
   Of<QString> text;
   Of<Color> color;                           ///< of the text; empty: black
   std::function<Qt::Alignment()> alignment;  ///< of the text; empty: where a line begins

@@ -49,7 +49,7 @@ class ColumnTableModel : public RecordTableModel {
     std::vector<ColumnHead> heads;
     for (const Column<Record>& column : columns) {
       const QString title = column.title.empty() ? QString() : toQt(bundle.localizedString(column.title));
-      heads.push_back({title, column.width, column.fit, column.percent != nullptr});
+      heads.push_back({title, column.width, column.fit, column.percent != nullptr, column.place});
     }
     return heads;
   }

@@ -31,7 +31,7 @@ void setUp(QTableView& view) {
 
 /// The last column keeps an edge to its left that can be dragged.
 void takeTheRest(QHeaderView& header, int column) {
-  if (column + 1 == header.count()) {
+  if (header.visualIndex(column) + 1 == header.count()) {
     header.setStretchLastSection(true);
   } else {
     header.setSectionResizeMode(column, QHeaderView::Stretch);
@@ -40,6 +40,10 @@ void takeTheRest(QHeaderView& header, int column) {
 
 void setUpColumns(QTableView& view, const std::vector<ColumnHead>& heads) {
   QHeaderView& header = *view.horizontalHeader();
+  for (int column = 0; column < header.count(); ++column) {
+    const int place = heads[static_cast<std::size_t>(column)].place;
+    if (place >= 0) header.moveSection(header.visualIndex(column), place);
+  }
   int column = 0;
   for (const ColumnHead& head : heads) {
     header.resizeSection(column, head.width);

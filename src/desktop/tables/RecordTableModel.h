@@ -15,6 +15,7 @@ struct ColumnHead {
   int width = 0;  ///< pixels
   ColumnFit fit = ColumnFit::Width;
   bool isBar = false;  ///< drawn as a bar, by the role of percentages
+  int place = -1;      ///< from the left, where it is another than its number
 };
 
 /// A thin window on rows that are arranged elsewhere: it holds their number and the heads of the columns, and asks for

@@ -12,6 +12,10 @@ QString translationOf(const LocalizeString& record, const ProjectWindowControlle
   return language ? cellText(record.languagesDict().find(language->code()).value_or("")) : QString();
 }
 
+QString tableOf(const LocalizeString& record) {
+  return record.tableRow() ? cellText(record.tableRow()->table->id) : QString();
+}
+
 /// Translations begin where their language begins a line.
 Qt::Alignment translationAlignment(const ProjectWindowController& project) {
   const auto language = project.selectedLanguage();
@@ -39,6 +43,7 @@ std::vector<Column<LocalizeString>> stringColumns(const ProjectWindowController&
       {"Files", 88, [](const Record& record) { return cellText(record.sourceList()); }},
       Column<Record>("Uses", 50, uses).aligned([] { return Qt::Alignment(Qt::AlignCenter); }),
       Column<Record>("Status", 80, status).colored(statusColor).takingTheRest(),
+      Column<Record>("Table", 130, tableOf).shownAt(1),
   };
 }
 

@@ -7,6 +7,9 @@
 
 namespace glossmill {
 
+/// The number of the column that says the table of a string.
+inline constexpr int kTableColumn = 6;
+
 /// The columns of the project's strings. `project` outlives them.
 std::vector<Column<LocalizeString>> stringColumns(const ProjectWindowController& project);
 

@@ -79,8 +79,18 @@ void CommandActions::add(const Command& command) {
   action->setShortcuts(shortcutsOf(command));
   action->setShortcutContext(contextOf(command));
   action->setMenuRole(menuRoleOf(command.id));
+  if (isChoice(command)) addChoice(command, *action);
   connect(action, &QAction::triggered, this, [this, &command] { trigger(command); });
   m_actions.emplace(command.id, action);
+}
+
+/// Of the choices of one menu one is marked.
+void CommandActions::addChoice(const Command& command, QAction& action) {
+  QActionGroup*& group = m_choices[command.menu];
+  if (!group) group = new QActionGroup(this);
+  action.setCheckable(true);
+  group->addAction(&action);
+  group->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
 }
 
 /// What was enabled a moment ago need not be any more.
@@ -120,6 +130,7 @@ void CommandActions::validate() {
   for (const Command& command : commands()) {
     QAction& action = *m_actions.at(command.id);
     action.setEnabled(isEnabled(command));
+    if (isChoice(command)) action.setChecked(isChosen(m_delegate, command));
     action.setText(toQt(commandTitle(m_delegate, command, m_bundle)));
   }
   if (validated) validated();

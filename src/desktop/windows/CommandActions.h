@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QActionGroup>
 #include <QKeyEvent>
 #include <QObject>
 #include <functional>
@@ -38,6 +39,7 @@ class CommandActions : public QObject {
 
  private:
   void add(const Command& command);
+  void addChoice(const Command& command, QAction& action);
   void trigger(const Command& command);
   bool isCommandKey(const QKeyEvent& event) const;
 
@@ -45,6 +47,7 @@ class CommandActions : public QObject {
   const Bundle& m_bundle;
   std::map<CommandId, QAction*> m_actions;
   std::map<CommandId, std::function<void()>> m_handlers;
+  std::map<MenuId, QActionGroup*> m_choices;
   bool m_covered = false;
   bool m_validationQueued = false;
 };

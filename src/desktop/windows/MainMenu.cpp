@@ -6,27 +6,43 @@ namespace glossmill {
 
 namespace {
 
-void fillMenu(QMenu& menu, MenuId id, CommandActions& actions, QMenu& recentMenu) {
-  for (const Command& command : commands()) {
-    if (command.menu != id) continue;
+class MenuFiller {
+ public:
+  MenuFiller(CommandActions& actions, QMenu& recentMenu, const Bundle& bundle)
+      : m_actions(actions), m_recentMenu(recentMenu), m_bundle(bundle) {}
+
+  void fill(QMenu& menu, MenuId id) const {
+    for (const Command& command : commands()) {
+      if (command.menu == id) add(menu, command);
+    }
+    QObject::connect(&menu, &QMenu::aboutToShow, &m_actions, [&actions = m_actions] { actions.validate(); });
+  }
+
+  QString title(MenuId id) const { return toQt(m_bundle.localizedString(menuTitle(id))); }
+
+ private:
+  void add(QMenu& menu, const Command& command) const {
     if (command.startsGroup) menu.addSeparator();
     if (command.id == CommandId::OpenRecent) {
-      menu.addMenu(&recentMenu);
+      menu.addMenu(&m_recentMenu);
+    } else if (command.id == CommandId::ChooseRules) {
+      fill(*menu.addMenu(title(MenuId::Rules)), MenuId::Rules);
     } else {
-      menu.addAction(&actions.action(command.id));
+      menu.addAction(&m_actions.action(command.id));
     }
   }
-  QObject::connect(&menu, &QMenu::aboutToShow, &actions, [&actions] { actions.validate(); });
-}
+
+  CommandActions& m_actions;
+  QMenu& m_recentMenu;
+  const Bundle& m_bundle;
+};
 
 }  // namespace
 
 void fillMenuBar(QMenuBar& bar, CommandActions& actions, QMenu& recentMenu, const Bundle& bundle) {
-  recentMenu.setTitle(toQt(bundle.localizedString(menuTitle(MenuId::Recent))));
-  for (const MenuId id : {MenuId::File, MenuId::Edit, MenuId::Go, MenuId::Windows, MenuId::Help}) {
-    QMenu* menu = bar.addMenu(toQt(bundle.localizedString(menuTitle(id))));
-    fillMenu(*menu, id, actions, recentMenu);
-  }
+  const MenuFiller filler(actions, recentMenu, bundle);
+  recentMenu.setTitle(filler.title(MenuId::Recent));
+  for (const MenuId id : menus()) filler.fill(*bar.addMenu(filler.title(id)), id);
 }
 
 }  // namespace glossmill

@@ -22,9 +22,9 @@ ProjectWindowInterface::ProjectWindowInterface(ProjectWindowController& project,
       m_unsavedNews(project, shell.delegate.news(), shell.bundle),
       m_news(shell.delegate.host(), project, shell.delegate.news(), m_fileWatch),
       m_window(m_mainWindow, *m_widgets.translationTextView),
-      m_strings(
-          {*m_widgets.stringTableView, *m_widgets.stringCount, *m_widgets.stringFilterPopUp, *m_widgets.searchField},
-          project, shell.bundle),
+      m_strings({*m_widgets.stringTableView, *m_widgets.stringCount, *m_widgets.stringFilterPopUp,
+                 *m_widgets.tablePopUp, *m_widgets.searchField},
+                project, shell.bundle),
       m_languages(*m_widgets.languageTableView, *m_widgets.languageCount, project, shell.bundle),
       m_details({*m_widgets.keyText, *m_widgets.commentText, *m_widgets.editorLabel, *m_widgets.translationTextView},
                 project, shell.bundle),
@@ -42,6 +42,7 @@ ProjectWindowInterface::ProjectWindowInterface(ProjectWindowController& project,
   setUpNews();
   observeProject();
   setUpUnsavedEdits();
+  setUpUnusedEntries();
 }
 
 /// The arranged rows went away before this, so nothing of the window may look for them any more.
@@ -96,6 +97,7 @@ void ProjectWindowInterface::setUpNews() {
   m_newsBar->changed = [this] { m_shell.actions.validateSoon(); };
   m_shell.actions.setHandler(CommandId::GoToMessage, [this] { m_newsBar->switchFocus(); });
   m_shell.actions.setHandler(CommandId::SavedVersions, [this] { showVersions({}); });
+  m_news.rules.useXcodeRules = [this] { m_shell.delegate.chooseRules(RuleSet::Xcode); };
   m_news.saves.show = [this](const std::string& id) { showVersions(id); };
   m_project.observers().add([this](ProjectMoment moment) {
     if (moment == ProjectMoment::Closed && m_versions) m_versions->close();
@@ -128,6 +130,23 @@ void ProjectWindowInterface::showUnsavedEdits() {
   m_unsavedEdits->discard = [this] { m_project.discardRecoverableEdits(); };
   QObject::connect(m_unsavedEdits, &QDialog::finished, &m_mainWindow, [this] { m_unsavedNews.offer(); });
   m_unsavedEdits->show();
+}
+
+void ProjectWindowInterface::setUpUnusedEntries() {
+  m_shell.actions.setHandler(CommandId::RemoveUnused, [this] { showUnusedEntries(); });
+  m_project.observers().add([this](ProjectMoment moment) {
+    if (moment == ProjectMoment::Closed && m_unusedEntries) m_unusedEntries->close();
+  });
+}
+
+/// What it shows is what was there when it was opened, so nothing else is edited meanwhile.
+void ProjectWindowInterface::showUnusedEntries() {
+  delete m_unusedEntries;
+  m_unusedEntries =
+      new UnusedEntriesWindow(m_project.unusedEntries(*m_project.languagesList()), m_shell.bundle, &m_mainWindow);
+  m_unusedEntries->setWindowModality(Qt::WindowModal);
+  m_unusedEntries->remove = [this](const std::vector<Edit>& chosen) { m_project.removeEntries(chosen); };
+  m_unusedEntries->show();
 }
 
 void ProjectWindowInterface::observeProject() {

@@ -15,6 +15,7 @@
 #include "desktop/windows/SavedVersionsWindow.h"
 #include "desktop/windows/StringPane.h"
 #include "desktop/windows/UnsavedEditsWindow.h"
+#include "desktop/windows/UnusedEntriesWindow.h"
 #include "platform/InterfaceFiles.h"
 #include "ui_ProjectWindowController.h"
 
@@ -41,6 +42,8 @@ class ProjectWindowInterface : public LoadedInterface {
   void setUpNews();
   void setUpUnsavedEdits();
   void showUnsavedEdits();
+  void setUpUnusedEntries();
+  void showUnusedEntries();
   void showVersions(const std::string& id);
   void stringsChanged(ArrayChange change);
   void languagesChanged(ArrayChange change);
@@ -55,6 +58,7 @@ class ProjectWindowInterface : public LoadedInterface {
   NewsBar* m_newsBar;
   UnsavedNews m_unsavedNews;
   QPointer<UnsavedEditsWindow> m_unsavedEdits;
+  QPointer<UnusedEntriesWindow> m_unusedEntries;
   QtFileWatch m_fileWatch;
   ProjectNews m_news;
   QPointer<SavedVersionsWindow> m_versions;

@@ -15,12 +15,20 @@ StringPane::StringPane(const StringPaneWidgets& widgets, ProjectWindowController
       m_table(widgets.table, m_model, std::make_unique<ControllerRows<LocalizeString>>(project.stringController()),
               [&project] { return project.longJobRunning(); }),
       m_filter(widgets.filter),
-      m_search(project) {
+      m_view(project.stringController()),
+      m_search(project, m_view),
+      m_tables(widgets.tables, project, m_view, bundle) {
   new ListKeys(widgets.search, widgets.table);
   QObject::connect(&widgets.filter, &QComboBox::activated, &m_table, [this] { m_project.changeStringFilter(); });
   QObject::connect(&widgets.search, &QLineEdit::textChanged, &m_table,
                    [this](const QString& text) { m_search.search(fromQt(text)); });
+  project.observers().add([this](ProjectMoment) { showTableColumn(); });
+  showTableColumn();
   showCount();
+}
+
+void StringPane::showTableColumn() {
+  m_widgets.table.setColumnHidden(kTableColumn, !m_tables.isOffered());
 }
 
 void StringPane::stringsChanged(ArrayChange change) {
@@ -34,6 +42,7 @@ void StringPane::stringsChanged(ArrayChange change) {
 
 void StringPane::translationsChanged() {
   m_search.translationsChanged();
+  m_view.refresh();
   m_table.redraw();
 }
 

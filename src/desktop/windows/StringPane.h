@@ -4,9 +4,11 @@
 #include <QLineEdit>
 
 #include "app/StringSearch.h"
+#include "app/ViewFilter.h"
 #include "desktop/host/WidgetControls.h"
 #include "desktop/tables/ColumnTableModel.h"
 #include "desktop/tables/RecordTable.h"
+#include "desktop/windows/TablePopUp.h"
 #include "project/ProjectWindowController.h"
 
 namespace glossmill {
@@ -16,10 +18,11 @@ struct StringPaneWidgets {
   QTableView& table;
   QLabel& count;
   QComboBox& filter;
+  QComboBox& tables;
   QLineEdit& search;
 };
 
-/// The string table with its filter, its search field and its count.
+/// The string table with its filter, the parts of its view, and its count.
 class StringPane {
  public:
   StringPane(const StringPaneWidgets& widgets, ProjectWindowController& project, const Bundle& bundle);
@@ -36,6 +39,7 @@ class StringPane {
 
  private:
   void showCount();
+  void showTableColumn();
 
   StringPaneWidgets m_widgets;
   ProjectWindowController& m_project;
@@ -43,7 +47,9 @@ class StringPane {
   ColumnTableModel<LocalizeString> m_model;
   RecordTable m_table;
   WidgetPopUpButton m_filter;
+  ViewFilter m_view;
   StringSearch m_search;
+  TablePopUp m_tables;
 };
 
 }  // namespace glossmill
