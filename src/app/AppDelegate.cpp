@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/UntranslatedSteps.h"
 #include "model/Settings.h"
 
 namespace glossmill {
@@ -55,6 +56,8 @@ bool AppDelegate::validateMenuItem(int tag) const {
       return m_news.current() != nullptr;
     case 22:
       return project && project->opened() && project->projectOptions().rules == RuleSet::Xcode;
+    case 23:
+      return project && hasUntranslated(*project);
     default:
       return true;
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/AppDelegate.h"
+#include "app/UntranslatedSteps.h"
 
 namespace glossmill {
 
@@ -12,6 +13,12 @@ namespace {
 template <void (ProjectWindowController::*operation)()>
 void onProject(AppDelegate& application) {
   if (ProjectWindowController* project = application.projectWindowController()) (project->*operation)();
+}
+
+/// The action of a command that a module of its own carries out on the project.
+template <void (*operation)(ProjectWindowController&)>
+void onOpenProject(AppDelegate& application) {
+  if (ProjectWindowController* project = application.projectWindowController()) operation(*project);
 }
 
 /// The action of a command of the application delegate.
@@ -67,6 +74,14 @@ constexpr Command kCommands[] = {
 
     {PreviousString, Go, "&Previous String", {"Alt+Up"}, 11, false, onApplication<&App::prevString>},
     {NextString, Go, "&Next String", {"Alt+Down", "Ctrl+Return"}, 12, false, onApplication<&App::nextString>},
+    {PreviousUntranslated,
+     Go,
+     "Pre&vious Untranslated",
+     {"Ctrl+Shift+Up"},
+     23,
+     false,
+     onOpenProject<selectPreviousUntranslated>},
+    {NextUntranslated, Go, "Next &Untranslated", {"Ctrl+Shift+Down"}, 23, false, onOpenProject<selectNextUntranslated>},
     {PreviousLanguage, Go, "P&revious Language", {"Alt+Left"}, 13, kStartsGroup, onApplication<&App::prevLanguage>},
     {NextLanguage, Go, "Ne&xt Language", {"Alt+Right"}, 14, false, onApplication<&App::nextLanguage>},
     {GoToMessage, Go, "Go to &Message", {"F6"}, 20, kStartsGroup},

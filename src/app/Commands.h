@@ -36,6 +36,8 @@ enum class CommandId {
   RemoveUnused,
   PreviousString,
   NextString,
+  PreviousUntranslated,
+  NextUntranslated,
   PreviousLanguage,
   NextLanguage,
   GoToMessage,

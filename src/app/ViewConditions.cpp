@@ -10,4 +10,15 @@ ViewFilter::Condition isOfTable(std::shared_ptr<const StringsTable> table) {
   };
 }
 
+ViewFilter::Condition isUntranslated(const ProjectWindowController& project) {
+  return [&project](const LocalizeString& record) {
+    const auto language = project.selectedLanguage();
+    return language && record.isMissing(language->code());
+  };
+}
+
+ViewFilter::Condition isUnused() {
+  return [](const LocalizeString& record) { return record.tableRow() && record.tableRow()->isUnused; };
+}
+
 }  // namespace glossmill

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -141,6 +142,8 @@ class ProjectWindowController : public ProjectContext,
   bool canSelectNextLanguage() const { return m_languageController.canSelectNext(); }
   void selectPrevString();
   void selectNextString();
+  /// A row of the string table.
+  void selectString(std::size_t row);
   void selectPrevLanguage();
   void selectNextLanguage();
   bool canClose() const { return m_opened; }
@@ -165,6 +168,8 @@ class ProjectWindowController : public ProjectContext,
   /// project that was opened with a journal.
   bool hasUnsavedEdits() const { return m_unsaved.any(); }
   bool canSaveAll() const { return m_opened && (m_changed || hasUnsavedEdits()); }
+  /// The strings that these edits are about.
+  std::set<const LocalizeString*> unsavedStrings() const;
   /// Returns when all edits are on the disk, or cannot be brought there.
   void flushEdits() { m_unsaved.flush(); }
   /// Why edits cannot be kept on the disk; nothing when they can.

@@ -95,6 +95,10 @@ void ProjectWindowController::selectNextString() {
   step([this] { m_stringController.selectNext(); });
 }
 
+void ProjectWindowController::selectString(std::size_t row) {
+  step([this, row] { m_stringController.setSelectionIndex(row); });
+}
+
 void ProjectWindowController::selectPrevLanguage() {
   step([this] { m_languageController.selectPrevious(); });
 }

@@ -43,6 +43,14 @@ void ProjectWindowController::retireWhatIsThere() {
   }));
 }
 
+std::set<const LocalizeString*> ProjectWindowController::unsavedStrings() const {
+  std::set<const LocalizeString*> strings;
+  if (!hasUnsavedEdits()) return strings;
+  const RecordsByPlace records = recordsByPlace();
+  for (const JournalEdit& edit : m_unsaved.all()) strings.insert(records.find(edit.table, edit.key).get());
+  return strings;
+}
+
 RecordsByPlace ProjectWindowController::recordsByPlace() const {
   RecordsByPlace records;
   records.add(stringList());

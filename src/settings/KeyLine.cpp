@@ -44,13 +44,13 @@ std::size_t lineOfKey(std::string_view text, std::string_view key) {
   return 1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
 }
 
-std::optional<TextRange> scalarOfKey(std::string_view text, std::string_view key) {
+std::optional<ScalarPlace> scalarOfKey(std::string_view text, std::string_view key) {
   const std::optional<std::size_t> place = placeOfKey(text, key);
   if (!place) return std::nullopt;
   const std::size_t colon = text.find(':', *place + key.size() + 2);
   const std::size_t start = text.find_first_not_of(kWhiteSpace, colon + 1);
   const std::size_t end = text[start] == '"' ? stringEnd(text, start) : text.find_first_of(" \t\r\n,}", start);
-  return TextRange{start, end - start};
+  return ScalarPlace{start, end - start};
 }
 
 }  // namespace glossmill

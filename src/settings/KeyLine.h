@@ -6,15 +6,15 @@
 
 namespace glossmill {
 
-/// A piece of a text.
-struct TextRange {
+/// Where a value stands in a text.
+struct ScalarPlace {
   std::size_t start = 0;
   std::size_t length = 0;
 };
 
 /// Where the text or number lies that the outermost object of a correct JSON text has for this key, the last one where
 /// the key stands there more than once; nothing when the key is missing or spelled with escapes.
-std::optional<TextRange> scalarOfKey(std::string_view text, std::string_view key);
+std::optional<ScalarPlace> scalarOfKey(std::string_view text, std::string_view key);
 
 /// The line, from 1, on which the outermost object of a correct JSON text has this key; 1 when the key is spelled with
 /// escapes. The last line counts where it stands there more than once, as its value does.

@@ -70,11 +70,12 @@ void insertRules(std::string& text, const std::string& value) {
   const std::size_t inside = text.find('{') + 1;
   const std::size_t first = text.find_first_not_of(" \t\r\n", inside);
   const std::string blank = text.substr(inside, first - inside);
-  const bool isOnlyMember = text[first] == '}';
-  text.insert(isOnlyMember ? inside : first, "\"rules\": " + value +
-                                                 (isOnlyMember    ? ""
-                                                  : blank.empty() ? ", "
-                                                                  : "," + blank));
+  const std::string member = "\"rules\": " + value;
+  if (text[first] == '}') {
+    text.insert(inside, member);
+  } else {
+    text.insert(first, member + "," + (blank.empty() ? " " : blank));
+  }
 }
 
 }  // namespace
@@ -100,7 +101,7 @@ Result<std::string> settingsTextWithRules(std::string_view text, RuleSet rules) 
   if (!before) return before.error();
   std::string changed(text);
   const std::string value = rules == RuleSet::Xcode ? "\"xcode\"" : "\"classic\"";
-  if (const std::optional<TextRange> place = scalarOfKey(text, "rules")) {
+  if (const std::optional<ScalarPlace> place = scalarOfKey(text, "rules")) {
     changed.replace(place->start, place->length, value);
   } else {
     insertRules(changed, value);

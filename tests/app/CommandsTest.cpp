@@ -48,6 +48,8 @@ TEST(Commands, CarryTheTagsThatEnableThem) {
                                                 {CommandId::UseClassicRules, 2},
                                                 {CommandId::UseXcodeRules, 2},
                                                 {CommandId::RemoveUnused, 22},
+                                                {CommandId::PreviousUntranslated, 23},
+                                                {CommandId::NextUntranslated, 23},
                                                 {CommandId::Quit, 0}};
   for (const auto& [id, tag] : expected) EXPECT_EQ(command(id).tag, tag) << command(id).title;
 }

@@ -114,14 +114,14 @@ class NavigationTest : public DesktopFixture {
     openDemo();
     filter().setFocus();
     QStringList met;
-    for (int step = 0; step < 7; ++step) {
+    for (int step = 0; step < 8; ++step) {
       met.append(QApplication::focusWidget()->objectName());
       press(Qt::Key_Tab);
     }
-    QCOMPARE(met, QStringList({QStringLiteral("stringFilterPopUp"), QStringLiteral("searchField"),
-                               QStringLiteral("stringTableView"), QStringLiteral("languageTableView"),
-                               QStringLiteral("keyText"), QStringLiteral("commentText"),
-                               QStringLiteral("translationTextView")}));
+    QCOMPARE(met, QStringList({QStringLiteral("stringFilterPopUp"), QStringLiteral("onlyButton"),
+                               QStringLiteral("searchField"), QStringLiteral("stringTableView"),
+                               QStringLiteral("languageTableView"), QStringLiteral("keyText"),
+                               QStringLiteral("commentText"), QStringLiteral("translationTextView")}));
     QVERIFY(filter().hasFocus());
   }
 

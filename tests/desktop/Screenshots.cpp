@@ -1,13 +1,20 @@
-// Usage: desktop_screenshots LOOK PROJECT OUTPUT
+// Usage: desktop_screenshots LOOK PROJECT OUTPUT [LANGUAGE]
 //
-// Opens the project and writes pictures of the program's windows into OUTPUT. LOOK is light, dark or right-to-left.
+// Opens the project and writes pictures of the program's windows into OUTPUT. LOOK is light, dark or right-to-left, or
+// rules-light or rules-dark: how a project is read by the classic rules, then by xcode's, and edited. The project is
+// not saved, but the choice of rules may be written into its own settings.
 
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTableView>
+#include <QTimer>
 #include <cstdio>
 
 #include "desktop/ApplicationSetup.h"
@@ -68,7 +75,66 @@ class Photographer {
     take("project-right-to-left");
   }
 
+  void takeRules() {
+    take("rules-offer");
+    m_program.actions().action(CommandId::UseXcodeRules).trigger();
+    waitForJob();
+    selectLanguage("de");
+    take("rules-tables");
+    showMenu("rules-menu");
+    editSomething();
+    take("rules-edited");
+    takeClosing();
+    m_program.actions().action(CommandId::AddLanguage).trigger();
+    take("rules-add-language");
+    m_program.sheets().current()->cancelButton().click();
+    m_program.actions().action(CommandId::RemoveUnused).trigger();
+    take("rules-unused", "UnusedEntriesWindow");
+  }
+
  private:
+  void waitForJob() {
+    while (m_program.delegate().projectWindowController()->longJobRunning()) runEvents(10);
+    runEvents(100);
+  }
+
+  /// The submenu beside its menu.
+  void showMenu(const char* name) {
+    QAction& rules = m_program.actions().action(CommandId::UseXcodeRules);
+    for (QObject* owner : rules.associatedObjects()) {
+      auto* menu = qobject_cast<QMenu*>(owner);
+      if (!menu) continue;
+      menu->popup(window("ProjectWindowController").mapToGlobal(QPoint(200, 120)));
+      runEvents(100);
+      save(*menu, name);
+      menu->close();
+    }
+  }
+
+  /// A translation of the selected language that replaces another one.
+  void editSomething() {
+    ProjectWindowController& project = *m_program.delegate().projectWindowController();
+    auto& strings = project.stringController();
+    for (std::size_t row = 0; row < strings.arrangedCount(); ++row) {
+      if (!strings.arrangedObject(row)->languagesDict().contains(project.selectedLanguage()->code())) continue;
+      strings.setSelectionIndex(row);
+      break;
+    }
+    auto& editor = *window("ProjectWindowController").findChild<QPlainTextEdit*>(QStringLiteral("translationTextView"));
+    editor.setFocus();
+    editor.setPlainText(QStringLiteral("\u201EErste\u201C Zeile\n\"zweite\" Zeile"));
+  }
+
+  void takeClosing() {
+    QTimer::singleShot(300, [this] {
+      auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (!question) std::exit(1);
+      save(*question, "rules-closing");
+      question->buttons().last()->click();
+    });
+    m_program.delegate().projectWindowController()->closeProject();
+  }
+
   QWidget& window(const char* name) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
       if (widget->objectName() == QLatin1String(name)) return *widget;
@@ -82,9 +148,11 @@ class Photographer {
     takeAsItIs(name, windowName);
   }
 
-  void takeAsItIs(const char* name, const char* windowName) {
+  void takeAsItIs(const char* name, const char* windowName) { save(window(windowName), name); }
+
+  void save(QWidget& widget, const char* name) {
     const QString file = QStringLiteral("%1/%2.png").arg(m_output, QLatin1String(name));
-    if (!window(windowName).grab().save(file)) std::exit(1);
+    if (!widget.grab().save(file)) std::exit(1);
     std::printf("%s\n", qPrintable(file));
   }
 
@@ -129,17 +197,19 @@ class Photographer {
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
-  if (argc != 4) return 2;
+  if (argc != 4 && argc != 5) return 2;
   const std::string_view look = argv[1];
+  const QString language = argc == 5 ? QString::fromLocal8Bit(argv[4]) : QStringLiteral("en");
   QApplication::setStyle(new glossmill::StillStyle);
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10));
-  if (look == "dark") QApplication::setPalette(glossmill::darkPalette());
+  if (look.ends_with("dark")) QApplication::setPalette(glossmill::darkPalette());
   if (look == "right-to-left") QApplication::setLayoutDirection(Qt::RightToLeft);
-  glossmill::DesktopProgram program(glossmill::setUpApplication(application, {QStringLiteral("en")}, "0.1.0"));
+  glossmill::DesktopProgram program(glossmill::setUpApplication(application, {language}, "0.1.0"));
   glossmill::Photographer photographer(program, QString::fromLocal8Bit(argv[3]));
   photographer.open(QDir(QString::fromLocal8Bit(argv[2])).absolutePath());
   if (look == "light") photographer.takeLight();
   if (look == "dark") photographer.takeDark();
   if (look == "right-to-left") photographer.takeRightToLeft();
+  if (look.starts_with("rules-")) photographer.takeRules();
   return 0;
 }

@@ -60,6 +60,7 @@ class UnusedEntriesTest : public DesktopFixture {
     press(Qt::Key_Return, Qt::NoModifier, unused());
     QVERIFY(!unused());
     QVERIFY(window().isWindowModified());
+    waitForProjectWindow();
     press(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(!german().contains("Old") && !english().contains("Old"));
     QVERIFY(german().contains("Gezeiten"));
@@ -74,6 +75,7 @@ class UnusedEntriesTest : public DesktopFixture {
     press(Qt::Key_Space, Qt::NoModifier, unused());
     QCOMPARE(in<QCheckBox>("allUnused").checkState(), Qt::PartiallyChecked);
     click(in<QPushButton>("removeButton"));
+    waitForProjectWindow();
     press(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(german().contains("Old") && !english().contains("Old"));
   }

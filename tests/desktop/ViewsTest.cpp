@@ -1,3 +1,6 @@
+#include <QHeaderView>
+#include <QMenu>
+
 #include "desktop/DesktopFixture.h"
 #include "desktop/TestClasses.h"
 #include "desktop/tables/StringColumns.h"
@@ -13,6 +16,12 @@ class ViewsTest : public DesktopFixture {
   void chooseTable(int index) {
     tables().setCurrentIndex(index);
     Q_EMIT tables().activated(index);
+  }
+  QAction& only(int number) { return *widget<QPushButton>("onlyButton").menu()->actions().at(number); }
+  QStringList onlyTitles() {
+    QStringList titles;
+    for (const QAction* action : widget<QPushButton>("onlyButton").menu()->actions()) titles.append(action->text());
+    return titles;
   }
   QString count() { return widget<QLabel>("stringCount").text(); }
   void openTables() {
@@ -42,7 +51,7 @@ class ViewsTest : public DesktopFixture {
   void narrowTheStringsToATable() {
     openTables();
     QCOMPARE(firstColumn(strings()), Keys({QStringLiteral("Ebb"), QStringLiteral("Flood"), QStringLiteral("Tide"),
-                                           QStringLiteral("Sail"), QStringLiteral("Old")}));
+                                           QStringLiteral("Old"), QStringLiteral("Sail")}));
     chooseTable(2);
     QCOMPARE(firstColumn(strings()), Keys{QStringLiteral("Sail")});
     QCOMPARE(count(), QStringLiteral("Strings: 1 of 5"));
@@ -69,6 +78,79 @@ class ViewsTest : public DesktopFixture {
     chooseTable(2);
     press(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(demo().read(QStringLiteral("App/de.lproj/Localizable.strings")).contains("Niedrigwasser"));
+  }
+
+  void showOnlyWhatIsWanted() {
+    openTables();
+    select(languages(), QStringLiteral("de"));
+    QCOMPARE(onlyTitles(), QStringList({QStringLiteral("Not &translated"), QStringLiteral("&Unused"),
+                                        QStringLiteral("&Changed since the last save")}));
+    only(0).trigger();
+    QCOMPARE(firstColumn(strings()), Keys{QStringLiteral("Flood")});
+    QCOMPARE(widget<QPushButton>("onlyButton").text(), QStringLiteral("Only: Not translated"));
+    QCOMPARE(count(), QStringLiteral("Strings: 1 of 5"));
+    only(1).trigger();
+    QCOMPARE(firstColumn(strings()), Keys());
+    only(0).trigger();
+    QCOMPARE(firstColumn(strings()), Keys{QStringLiteral("Old")});
+    chooseTable(2);
+    QCOMPARE(firstColumn(strings()), Keys());
+    chooseTable(0);
+    only(1).trigger();
+    QCOMPARE(widget<QPushButton>("onlyButton").text(), QStringLiteral("All"));
+    QCOMPARE(firstColumn(strings()).size(), 5);
+  }
+
+  void showWhatIsNotTranslatedIntoTheLanguageThatIsChosen() {
+    openTables();
+    only(0).trigger();
+    select(languages(), QStringLiteral("de"));
+    select(languages(), QStringLiteral("en"));
+    QCOMPARE(firstColumn(strings()), Keys{QStringLiteral("Flood")});  // which was selected
+    press(Qt::Key_Down);
+    select(languages(), QStringLiteral("de"));
+    QCOMPARE(firstColumn(strings()), Keys{QStringLiteral("Flood")});
+  }
+
+  void keepTheStringThatIsBeingTranslated() {
+    openTables();
+    select(languages(), QStringLiteral("de"));
+    only(0).trigger();
+    editor().setFocus();
+    type(QStringLiteral("Flut"));
+    QCOMPARE(firstColumn(strings()), Keys{QStringLiteral("Flood")});
+  }
+
+  void showWhatHasChangedSinceTheLastSave() {
+    openTables();
+    select(languages(), QStringLiteral("de"));
+    select(strings(), QStringLiteral("Tide"));
+    editor().setFocus();
+    editor().setPlainText(QStringLiteral("Tide"));
+    only(2).trigger();
+    QCOMPARE(firstColumn(strings()), Keys{QStringLiteral("Tide")});
+    only(2).trigger();
+    press(Qt::Key_S, Qt::ControlModifier);
+    only(2).trigger();
+    QCOMPARE(firstColumn(strings()), Keys());
+  }
+
+  void offerUnusedStringsOnlyWhereTheRulesKnowThem() {
+    openDemo();
+    QVERIFY(!only(1).isVisible());
+    QVERIFY(only(0).isVisible());
+  }
+
+  void stepToWhatIsNotTranslated() {
+    openTables();
+    select(languages(), QStringLiteral("de"));
+    QVERIFY(isEnabled(CommandId::NextUntranslated));
+    press(Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(widget<QPlainTextEdit>("keyText").toPlainText(), QStringLiteral("Flood"));
+    QVERIFY(editor().hasFocus());
+    type(QStringLiteral("Flut"));
+    QVERIFY(!isEnabled(CommandId::NextUntranslated));
+    QVERIFY(!isEnabled(CommandId::PreviousUntranslated));
   }
 
   void forgetTheTableWithTheProject() {

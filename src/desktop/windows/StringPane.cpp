@@ -17,7 +17,8 @@ StringPane::StringPane(const StringPaneWidgets& widgets, ProjectWindowController
       m_filter(widgets.filter),
       m_view(project.stringController()),
       m_search(project, m_view),
-      m_tables(widgets.tables, project, m_view, bundle) {
+      m_tables(widgets.tables, project, m_view, bundle),
+      m_only(widgets.only, project, m_view, bundle) {
   new ListKeys(widgets.search, widgets.table);
   QObject::connect(&widgets.filter, &QComboBox::activated, &m_table, [this] { m_project.changeStringFilter(); });
   QObject::connect(&widgets.search, &QLineEdit::textChanged, &m_table,

@@ -8,6 +8,7 @@
 #include "desktop/host/WidgetControls.h"
 #include "desktop/tables/ColumnTableModel.h"
 #include "desktop/tables/RecordTable.h"
+#include "desktop/windows/OnlyButton.h"
 #include "desktop/windows/TablePopUp.h"
 #include "project/ProjectWindowController.h"
 
@@ -19,6 +20,7 @@ struct StringPaneWidgets {
   QLabel& count;
   QComboBox& filter;
   QComboBox& tables;
+  QPushButton& only;
   QLineEdit& search;
 };
 
@@ -50,6 +52,7 @@ class StringPane {
   ViewFilter m_view;
   StringSearch m_search;
   TablePopUp m_tables;
+  OnlyButton m_only;
 };
 
 }  // namespace glossmill
