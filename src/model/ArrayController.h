@@ -27,6 +27,8 @@ class ArrayController {
   using Array = std::vector<Object>;
   using Less = std::function<bool(const T&, const T&)>;
   using Filter = std::function<bool(const T&)>;
+  /// Brings rows, which are places in the array, into another order.
+  using Sorter = std::function<void(const Array& content, std::vector<std::size_t>& rows)>;
   using Observer = std::function<void(ArrayChange)>;
 
   ArrayController() : m_content(std::make_shared<Array>()) {}
@@ -46,6 +48,8 @@ class ArrayController {
   const Object& arrangedObject(std::size_t row) const { return (*m_content)[m_rows[row]]; }
   /// Empty functions arrange everything in the order of the content.
   void setLess(Less less);
+  /// Sorts behind what setLess() says.
+  void setSorter(Sorter sorter);
   void setFilter(Filter filter);
   /// Sorts and searches anew, after objects have changed.
   void rearrange();
@@ -76,6 +80,7 @@ class ArrayController {
   std::vector<std::size_t> m_rows;
   std::optional<std::size_t> m_selected;
   Less m_less;
+  Sorter m_sorter;
   Filter m_filter;
   std::vector<Observer> m_observers;
 };
@@ -127,6 +132,12 @@ void ArrayController<T>::setLess(Less less) {
 }
 
 template <typename T>
+void ArrayController<T>::setSorter(Sorter sorter) {
+  m_sorter = std::move(sorter);
+  rearrange();
+}
+
+template <typename T>
 void ArrayController<T>::setFilter(Filter filter) {
   m_filter = std::move(filter);
   rearrange();
@@ -173,9 +184,11 @@ void ArrayController<T>::arrange() {
   for (std::size_t place = 0; place < m_content->size(); ++place) {
     if (!m_filter || m_filter(*(*m_content)[place])) m_rows.push_back(place);
   }
-  if (!m_less) return;
-  std::stable_sort(m_rows.begin(), m_rows.end(),
-                   [this](std::size_t a, std::size_t b) { return m_less(*(*m_content)[a], *(*m_content)[b]); });
+  if (m_less) {
+    std::stable_sort(m_rows.begin(), m_rows.end(),
+                     [this](std::size_t a, std::size_t b) { return m_less(*(*m_content)[a], *(*m_content)[b]); });
+  }
+  if (m_sorter) m_sorter(*m_content, m_rows);
 }
 
 /// Content only grows at its end here, so a place names the same object before and after.

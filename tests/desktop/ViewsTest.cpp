@@ -1,5 +1,6 @@
 #include <QHeaderView>
 #include <QMenu>
+#include <QMenuBar>
 
 #include "desktop/DesktopFixture.h"
 #include "desktop/TestClasses.h"
@@ -22,6 +23,12 @@ class ViewsTest : public DesktopFixture {
     QStringList titles;
     for (const QAction* action : widget<QPushButton>("onlyButton").menu()->actions()) titles.append(action->text());
     return titles;
+  }
+  QMenu& columnMenu() { return *window().menuBar()->actions().at(2)->menu()->actions().first()->menu(); }
+  void clickHead(int column) {
+    const QHeaderView& header = *strings().horizontalHeader();
+    const QPoint place(header.sectionViewportPosition(column) + header.sectionSize(column) / 2, header.height() / 2);
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, Qt::NoModifier, place);
   }
   QString count() { return widget<QLabel>("stringCount").text(); }
   void openTables() {
@@ -151,6 +158,82 @@ class ViewsTest : public DesktopFixture {
     type(QStringLiteral("Flut"));
     QVERIFY(!isEnabled(CommandId::NextUntranslated));
     QVERIFY(!isEnabled(CommandId::PreviousUntranslated));
+  }
+
+  void sortByAClickOnAHead() {
+    openTables();
+    const Keys sources = firstColumn(strings());
+    clickHead(0);
+    QCOMPARE(firstColumn(strings()), Keys({QStringLiteral("Ebb"), QStringLiteral("Flood"), QStringLiteral("Old"),
+                                           QStringLiteral("Sail"), QStringLiteral("Tide")}));
+    QCOMPARE(strings().currentIndex().row(), 0);
+    clickHead(0);
+    QCOMPARE(firstColumn(strings()).first(), QStringLiteral("Tide"));
+    QCOMPARE(strings().currentIndex().row(), 4);
+    clickHead(0);
+    QCOMPARE(firstColumn(strings()), sources);
+    QVERIFY(!strings().horizontalHeader()->isSortIndicatorShown());
+  }
+
+  void rememberOrderPlacesAndHiddenColumns() {
+    openTables();
+    clickHead(0);
+    clickHead(0);
+    strings().horizontalHeader()->moveSection(strings().horizontalHeader()->visualIndex(3), 0);
+    columnMenu().actions().at(2)->trigger();
+    QVERIFY(strings().isColumnHidden(2));
+    startAnew();
+    openDemo();
+    QCOMPARE(firstColumn(strings()).first(), QStringLiteral("Tide"));
+    QCOMPARE(strings().horizontalHeader()->visualIndex(3), 0);
+    QVERIFY(strings().isColumnHidden(2));
+    QVERIFY(!columnMenu().actions().at(2)->isChecked());
+    columnMenu().actions().at(2)->trigger();
+    QVERIFY(!strings().isColumnHidden(2));
+  }
+
+  void giveWhatIsWiderToTexts() {
+    openTables();
+    QHeaderView& header = *strings().horizontalHeader();
+    const int status = header.sectionSize(5);
+    const int key = header.sectionSize(0);
+    QCOMPARE(header.length(), strings().viewport()->width());
+    window().resize(window().width() + 200, window().height());
+    QTRY_VERIFY(header.sectionSize(0) > key);
+    QCOMPARE(header.sectionSize(5), status);
+    QCOMPARE(header.length(), strings().viewport()->width());
+  }
+
+  void showTheSourceTextWhereItIsNotTheKey() {
+    openTables();
+    QVERIFY(!strings().isColumnHidden(kSourceColumn));
+    QCOMPARE(cell(strings(), QStringLiteral("Flood"), kSourceColumn), QStringLiteral("Flood tide"));
+    select(strings(), QStringLiteral("Flood"));
+    QVERIFY(widget<QPlainTextEdit>("sourceText").isVisible());
+    QCOMPARE(widget<QPlainTextEdit>("sourceText").toPlainText(), QStringLiteral("Flood tide"));
+    QVERIFY(project().closeProject());
+    QVERIFY(!widget<QPlainTextEdit>("sourceText").isVisible());
+  }
+
+  void showNoSourceTextThatIsAlwaysTheKey() {
+    openDemo();
+    QVERIFY(strings().isColumnHidden(kSourceColumn));
+    QVERIFY(!widget<QPlainTextEdit>("sourceText").isVisible());
+  }
+
+  void showAnotherLanguageBesideTheTranslation() {
+    openTables();
+    select(strings(), QStringLiteral("Ebb"));
+    QMenu& beside = *window().menuBar()->actions().at(2)->menu()->actions().at(1)->menu();
+    Q_EMIT beside.aboutToShow();
+    QStringList titles;
+    for (const QAction* action : beside.actions()) titles.append(action->text());
+    QCOMPARE(titles, QStringList({QStringLiteral("Source Text"), QStringLiteral("German (de)"),
+                                  QStringLiteral("English (en)")}));
+    beside.actions().at(1)->trigger();
+    QCOMPARE(widget<QPlainTextEdit>("sourceText").toPlainText(), QStringLiteral("Ebbe"));
+    QCOMPARE(cell(strings(), QStringLiteral("Tide"), kSourceColumn), QStringLiteral("Gezeiten"));
+    QCOMPARE(widget<QLabel>("sourceLabel").text(), QStringLiteral("Reference: de"));
   }
 
   void forgetTheTableWithTheProject() {

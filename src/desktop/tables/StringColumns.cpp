@@ -26,9 +26,11 @@ Qt::Alignment translationAlignment(const ProjectWindowController& project) {
 
 }  // namespace
 
-std::vector<Column<LocalizeString>> stringColumns(const ProjectWindowController& project) {
+std::vector<Column<LocalizeString>> stringColumns(const ProjectWindowController& project,
+                                                  const ReferenceText& reference) {
   using Record = LocalizeString;
   const auto translation = [&project](const Record& record) { return translationOf(record, project); };
+  const auto source = [&reference](const Record& record) { return cellText(reference.of(record)); };
   const auto uses = [](const Record& record) { return QString::number(record.useCount()); };
   const auto status = [&project](const Record& record) {
     return cellText(record.statusString(project.statusTexts(), &project));
@@ -42,8 +44,9 @@ std::vector<Column<LocalizeString>> stringColumns(const ProjectWindowController&
       {"Comment", 126, [](const Record& record) { return cellText(record.comment()); }},
       {"Files", 88, [](const Record& record) { return cellText(record.sourceList()); }},
       Column<Record>("Uses", 50, uses).aligned([] { return Qt::Alignment(Qt::AlignCenter); }),
-      Column<Record>("Status", 80, status).colored(statusColor).takingTheRest(),
+      Column<Record>("Status", 104, status).colored(statusColor),
       Column<Record>("Table", 130, tableOf).shownAt(1),
+      Column<Record>("Source Text", 200, source).shownAt(2),
   };
 }
 

@@ -21,13 +21,16 @@ ProjectWindowInterface::ProjectWindowInterface(ProjectWindowController& project,
       m_newsBar(new NewsBar(shell.delegate.news(), shell.bundle)),
       m_unsavedNews(project, shell.delegate.news(), shell.bundle),
       m_news(shell.delegate.host(), project, shell.delegate.news(), m_fileWatch),
+      m_reference(project),
       m_window(m_mainWindow, *m_widgets.translationTextView),
       m_strings({*m_widgets.stringTableView, *m_widgets.stringCount, *m_widgets.stringFilterPopUp,
                  *m_widgets.tablePopUp, *m_widgets.onlyButton, *m_widgets.searchField},
-                project, shell.bundle),
+                project, m_reference, shell.bundle),
       m_languages(*m_widgets.languageTableView, *m_widgets.languageCount, project, shell.bundle),
-      m_details({*m_widgets.keyText, *m_widgets.commentText, *m_widgets.editorLabel, *m_widgets.translationTextView},
-                project, shell.bundle),
+      m_details({*m_widgets.keyText, *m_widgets.sourceLabel, *m_widgets.sourceText, *m_widgets.commentText,
+                 *m_widgets.editorLabel, *m_widgets.translationTextView},
+                project, m_reference, shell.bundle),
+      m_viewMenu(project, m_reference, m_strings.columns().menu(), shell.bundle),
       m_toolBar(*m_widgets.toolBar, shell.actions, shell.delegate, shell.bundle) {
   m_widgets.mainSplitter->setSizes({500, 210});
   m_widgets.tableSplitter->setSizes({850, 330});
@@ -36,6 +39,7 @@ ProjectWindowInterface::ProjectWindowInterface(ProjectWindowController& project,
   m_widgets.tableSplitter->setStretchFactor(0, 1);
   keepClearOfSplitters();
   restoreLayout(m_mainWindow);
+  m_strings.columns().restore();
   m_widgets.stringTableView->setFocus();
   setUpCommands();
   setUpSearch();
@@ -48,6 +52,7 @@ ProjectWindowInterface::ProjectWindowInterface(ProjectWindowController& project,
 /// The arranged rows went away before this, so nothing of the window may look for them any more.
 ProjectWindowInterface::~ProjectWindowInterface() {
   saveLayout(m_mainWindow);
+  m_strings.columns().save();
   m_shell.notifications.removeObserver(this);
   m_shell.sheets.changed = nullptr;
   m_shell.actions.validated = nullptr;
@@ -67,6 +72,8 @@ void ProjectWindowInterface::keepClearOfSplitters() {
 
 void ProjectWindowInterface::setUpCommands() {
   fillMenuBar(*m_widgets.menubar, m_shell.actions, m_shell.recentMenu.menu(), m_shell.bundle);
+  m_viewMenu.insertInto(*m_widgets.menubar, 2);
+  m_viewMenu.referenceChanged = [this] { referenceChanged(); };
   new MenuBarFocus(*m_widgets.menubar);
   m_shell.sheets.setWindow(m_mainWindow);
   m_shell.sheets.changed = [this] { sheetsChanged(); };
@@ -155,6 +162,9 @@ void ProjectWindowInterface::observeProject() {
   m_shell.notifications.addObserver(this, kTranslationChangedNotification,
                                     [this](const void*) { m_languages.redraw(); });
   m_project.edits().addObserver([this](const Edit&, const EditStep& step) { editApplied(step.kind); });
+  m_project.observers().add([this](ProjectMoment moment) {
+    if (moment != ProjectMoment::Saved) m_details.referenceChanged();
+  });
   QObject::connect(m_widgets.translationTextView, &TranslationEditor::translationEdited, &m_mainWindow,
                    [this] { m_strings.translationEdited(); });
 }
@@ -189,6 +199,11 @@ void ProjectWindowInterface::refresh() {
   m_refreshQueued = false;
   m_strings.translationsChanged();
   m_languages.redraw();
+}
+
+void ProjectWindowInterface::referenceChanged() {
+  m_strings.referenceChanged();
+  m_details.referenceChanged();
 }
 
 void ProjectWindowInterface::sheetsChanged() {

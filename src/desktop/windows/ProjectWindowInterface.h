@@ -16,6 +16,7 @@
 #include "desktop/windows/StringPane.h"
 #include "desktop/windows/UnsavedEditsWindow.h"
 #include "desktop/windows/UnusedEntriesWindow.h"
+#include "desktop/windows/ViewMenu.h"
 #include "platform/InterfaceFiles.h"
 #include "ui_ProjectWindowController.h"
 
@@ -48,6 +49,7 @@ class ProjectWindowInterface : public LoadedInterface {
   void stringsChanged(ArrayChange change);
   void languagesChanged(ArrayChange change);
   void sheetsChanged();
+  void referenceChanged();
   void editApplied(EditKind kind);
   void refresh();
 
@@ -62,10 +64,12 @@ class ProjectWindowInterface : public LoadedInterface {
   QtFileWatch m_fileWatch;
   ProjectNews m_news;
   QPointer<SavedVersionsWindow> m_versions;
+  ReferenceText m_reference;
   WidgetWindow m_window;
   StringPane m_strings;
   LanguagePane m_languages;
   DetailPane m_details;
+  ViewMenu m_viewMenu;
   ProjectToolBar m_toolBar;
   bool m_refreshQueued = false;
 };

@@ -7,29 +7,43 @@
 
 namespace glossmill {
 
-StringPane::StringPane(const StringPaneWidgets& widgets, ProjectWindowController& project, const Bundle& bundle)
+StringPane::StringPane(const StringPaneWidgets& widgets, ProjectWindowController& project,
+                       const ReferenceText& reference, const Bundle& bundle)
     : m_widgets(widgets),
       m_project(project),
       m_bundle(bundle),
-      m_model(project.stringController(), stringColumns(project), bundle),
+      m_reference(reference),
+      m_model(project.stringController(), stringColumns(project, reference), bundle),
       m_table(widgets.table, m_model, std::make_unique<ControllerRows<LocalizeString>>(project.stringController()),
               [&project] { return project.longJobRunning(); }),
       m_filter(widgets.filter),
       m_view(project.stringController()),
       m_search(project, m_view),
       m_tables(widgets.tables, project, m_view, bundle),
-      m_only(widgets.only, project, m_view, bundle) {
+      m_only(widgets.only, project, m_view, bundle),
+      m_order(project, reference),
+      m_columns(widgets.table, m_order) {
   new ListKeys(widgets.search, widgets.table);
   QObject::connect(&widgets.filter, &QComboBox::activated, &m_table, [this] { m_project.changeStringFilter(); });
   QObject::connect(&widgets.search, &QLineEdit::textChanged, &m_table,
                    [this](const QString& text) { m_search.search(fromQt(text)); });
-  project.observers().add([this](ProjectMoment) { showTableColumn(); });
-  showTableColumn();
+  project.observers().add([this](ProjectMoment moment) {
+    if (moment != ProjectMoment::Saved) offerColumns();
+  });
+  offerColumns();
   showCount();
 }
 
-void StringPane::showTableColumn() {
-  m_widgets.table.setColumnHidden(kTableColumn, !m_tables.isOffered());
+/// A source text that is always the key says nothing new.
+void StringPane::offerColumns() {
+  m_columns.setOffered(kTableColumn, m_tables.isOffered());
+  m_columns.setOffered(kSourceColumn, m_reference.isWorthShowing());
+}
+
+void StringPane::referenceChanged() {
+  offerColumns();
+  m_project.stringController().rearrange();
+  m_table.redraw();
 }
 
 void StringPane::stringsChanged(ArrayChange change) {
@@ -43,7 +57,11 @@ void StringPane::stringsChanged(ArrayChange change) {
 
 void StringPane::translationsChanged() {
   m_search.translationsChanged();
-  m_view.refresh();
+  if (m_view.isEmpty()) {
+    if (m_columns.isSorted()) m_project.stringController().rearrange();
+  } else {
+    m_view.refresh();
+  }
   m_table.redraw();
 }
 

@@ -3,12 +3,15 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "app/ReferenceText.h"
+#include "app/StringOrder.h"
 #include "app/StringSearch.h"
 #include "app/ViewFilter.h"
 #include "desktop/host/WidgetControls.h"
 #include "desktop/tables/ColumnTableModel.h"
 #include "desktop/tables/RecordTable.h"
 #include "desktop/windows/OnlyButton.h"
+#include "desktop/windows/StringTableColumns.h"
 #include "desktop/windows/TablePopUp.h"
 #include "project/ProjectWindowController.h"
 
@@ -27,9 +30,14 @@ struct StringPaneWidgets {
 /// The string table with its filter, the parts of its view, and its count.
 class StringPane {
  public:
-  StringPane(const StringPaneWidgets& widgets, ProjectWindowController& project, const Bundle& bundle);
+  /// All of it outlives the pane.
+  StringPane(const StringPaneWidgets& widgets, ProjectWindowController& project, const ReferenceText& reference,
+             const Bundle& bundle);
 
   RecordTable& table() { return m_table; }
+  StringTableColumns& columns() { return m_columns; }
+  /// Another text is shown beside the translations.
+  void referenceChanged();
   PopUpButton& filterPopUp() { return m_filter; }
   void stringsChanged(ArrayChange change);
   /// Another language was selected, or a job is over.
@@ -41,11 +49,12 @@ class StringPane {
 
  private:
   void showCount();
-  void showTableColumn();
+  void offerColumns();
 
   StringPaneWidgets m_widgets;
   ProjectWindowController& m_project;
   const Bundle& m_bundle;
+  const ReferenceText& m_reference;
   ColumnTableModel<LocalizeString> m_model;
   RecordTable m_table;
   WidgetPopUpButton m_filter;
@@ -53,6 +62,8 @@ class StringPane {
   StringSearch m_search;
   TablePopUp m_tables;
   OnlyButton m_only;
+  StringOrder m_order;
+  StringTableColumns m_columns;
 };
 
 }  // namespace glossmill
