@@ -48,8 +48,7 @@ void DesktopProgram::setUpHandlers() {
 }
 
 void DesktopProgram::setUpRules() {
-  m_delegate.setSettingsReader(
-      [this](const ProjectOpening& wanted) { return settledOpening(wanted); });
+  m_delegate.setSettingsReader([this](const ProjectOpening& wanted) { return settledOpening(wanted); });
   m_delegate.setRulesKeeper([this](const ProjectWindowController& project, RuleSet rules) {
     const Outcome kept = keepRules(m_delegate.host(), project.projectDirectory(), project.projectOptions(), rules);
     if (kept) m_typedRules.reset();
@@ -57,8 +56,7 @@ void DesktopProgram::setUpRules() {
   });
 }
 
-Result<ProjectOpening> DesktopProgram::settledOpening(
-    const ProjectOpening& wanted) {
+Result<ProjectOpening> DesktopProgram::settledOpening(const ProjectOpening& wanted) {
   const FileUrl directory = projectDirectoryOf(m_files, wanted.directory);
   const ReadingWish wish = {m_typedRules, {}, rememberedRules(m_defaults, directory)};
   Result<ReadingChoice> choice = readingChoice(m_files, wanted.directory, wish, absoluteUrl);
