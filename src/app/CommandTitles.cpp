@@ -25,6 +25,8 @@ std::string undoTitle(const HistoryStep& step, const std::string& language, cons
       return formatText(bundle.localizedString("&Undo Import of %@"), {language});
     case EditKind::Fill:
       return formatText(bundle.localizedString("&Undo Filling of %@"), {language});
+    case EditKind::Replacement:
+      return bundle.localizedString("&Undo Replacement");
     case EditKind::Removal:
       return bundle.localizedString("&Undo Removal of Unused Entries");
     case EditKind::Recovery:
@@ -44,6 +46,8 @@ std::string redoTitle(const HistoryStep& step, const std::string& language, cons
       return formatText(bundle.localizedString("&Redo Import of %@"), {language});
     case EditKind::Fill:
       return formatText(bundle.localizedString("&Redo Filling of %@"), {language});
+    case EditKind::Replacement:
+      return bundle.localizedString("&Redo Replacement");
     case EditKind::Removal:
       return bundle.localizedString("&Redo Removal of Unused Entries");
     case EditKind::Recovery:

@@ -28,9 +28,10 @@ enum class EditKind {
   TypingBack,  ///< an editor takes back by itself what was typed into it
   Import,
   Fill,
-  Removal,   ///< of entries that nothing uses
-  Undo,      ///< or redo
-  Recovery,  ///< of what a former session left unsaved
+  Replacement,  ///< of a text by another, everywhere
+  Removal,      ///< of entries that nothing uses
+  Undo,         ///< or redo
+  Recovery,     ///< of what a former session left unsaved
 };
 
 constexpr bool isTyping(EditKind kind) {

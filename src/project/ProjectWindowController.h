@@ -18,6 +18,7 @@ namespace glossmill {
 class ImportPlan;
 struct ExchangeFormat;
 class ScanRun;
+struct Replacement;
 
 /// Owns the open project for its whole life and offers its operations: the rules are in modules, this class asks the
 /// host, calls one module, adopts the result and tells the window. Main thread, but for the operations marked
@@ -132,6 +133,8 @@ class ProjectWindowController : public ProjectContext,
   /// How many records of stringList() have no translation in this language.
   std::size_t missingTranslations(const Language& language) const;
   void applyEdit(EditKind kind, const Edit& edit) override { m_edits.applyEdit(kind, edit); }
+  /// Makes the replacements that still fit, as one step; how many they were.
+  std::size_t replaceTexts(const std::vector<Replacement>& replacements);
   /// For whoever wants to hear of every edit.
   EditDoor& edits() { return m_edits; }
   /// The selection of the language table has changed: the editor shows the translation of the new language.

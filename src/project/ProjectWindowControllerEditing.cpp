@@ -1,5 +1,6 @@
 #include "model/Settings.h"
 #include "project/ProjectWindowController.h"
+#include "search/ReplacePlan.h"
 
 namespace glossmill {
 
@@ -10,6 +11,12 @@ constexpr int kStringsNotComplete = 1;
 constexpr int kSaveToolbarItem = 2;
 
 }  // namespace
+
+std::size_t ProjectWindowController::replaceTexts(const std::vector<Replacement>& replacements) {
+  const std::vector<Edit> edits = editsThatFit(replacements);
+  if (!edits.empty()) applyStep(EditKind::Replacement, edits);
+  return edits.size();
+}
 
 void ProjectWindowController::changeStringFilter() {
   m_window.outlets.stringTableView->beginUpdates();

@@ -59,4 +59,13 @@ void ReplacePlan::look(const std::shared_ptr<LocalizeString>& record, LanguageCo
   m_replacements.push_back(std::move(change));
 }
 
+std::vector<Edit> editsThatFit(const std::vector<Replacement>& replacements) {
+  std::vector<Edit> edits;
+  for (const Replacement& replacement : replacements) {
+    const Edit& edit = replacement.edit;
+    if (edit.record->languagesDict().find(edit.language) == edit.before) edits.push_back(edit);
+  }
+  return edits;
+}
+
 }  // namespace glossmill

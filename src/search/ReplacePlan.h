@@ -54,4 +54,7 @@ class ReplacePlan {
   std::vector<Replacement> m_replacements;
 };
 
+/// Those edits of the replacements that still find the text that they replace.
+std::vector<Edit> editsThatFit(const std::vector<Replacement>& replacements);
+
 }  // namespace glossmill
