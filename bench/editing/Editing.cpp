@@ -8,6 +8,7 @@
 #include "editing/HeadlessProject.h"
 #include "editing/JobTrials.h"
 #include "editing/SavingTrials.h"
+#include "editing/SuggestionTrials.h"
 #include "editing/UnsavedTrials.h"
 #include "host/AllocatorSettings.h"
 #include "timing/Findings.h"
@@ -19,6 +20,7 @@ constexpr int kStatusRounds = 1000;
 constexpr int kJobRounds = 5;
 constexpr int kSavingRounds = 5;
 constexpr int kEditRounds = 5000;
+constexpr int kSuggestionRounds = 500;
 constexpr std::size_t kBatch = 100'000;
 constexpr int kBatchRounds = 5;
 
@@ -33,6 +35,7 @@ int main(int argumentCount, char** arguments) {
   }
   const std::string scratch = arguments[2];
   bench::HeadlessProject project(arguments[1]);
+  bench::runSuggestionTrials(project.controller(), kSuggestionRounds);
   bench::SavingTrials(project.controller(), scratch).run(kSavingRounds);
   bench::JobTrials(project.controller(), project.host().files, FileUrl(scratch), [&] {
     project.host().runUntilIdle();
