@@ -8,6 +8,15 @@ namespace {
 constexpr std::size_t kLargestBlock = 1 << 20;
 }
 
+StoredText TextArena::addLong(std::string_view text) {
+  const auto length = static_cast<std::uint32_t>(text.size());
+  char* const at = reserve(1 + sizeof length + text.size());
+  *at = static_cast<char>(StoredText::kLong);
+  std::memcpy(at + 1, &length, sizeof length);
+  std::memcpy(at + 1 + sizeof length, text.data(), text.size());
+  return StoredText(at);
+}
+
 void TextArena::addBlock(std::size_t bytes) {
   const std::size_t size = std::max(bytes, m_blockSize);
   m_blocks.push_back(std::unique_ptr<char[]>(new char[size]));

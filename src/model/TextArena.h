@@ -18,13 +18,20 @@ class StoredText {
 
   explicit operator bool() const { return m_at != nullptr; }
   std::string_view view() const {
+    const auto first = static_cast<unsigned char>(*m_at);
+    if (first < kLong) return {m_at + 1, first};
     std::uint32_t length = 0;
-    std::memcpy(&length, m_at, sizeof length);
-    return {m_at + sizeof length, length};
+    std::memcpy(&length, m_at + 1, sizeof length);
+    return {m_at + 1 + sizeof length, length};
   }
 
  private:
-  const char* m_at = nullptr;  ///< a 32-bit length in bytes, then the bytes
+  friend class TextArena;
+
+  static constexpr unsigned char kLong = 255;
+
+  /// The length in bytes, then the bytes. Nearly all texts are short: the length takes one byte, or four behind kLong.
+  const char* m_at = nullptr;
 };
 
 /// Keeps many short texts in a few large blocks. Texts are never freed one by one: all go with the arena. One thread at
@@ -32,14 +39,15 @@ class StoredText {
 class TextArena {
  public:
   StoredText add(std::string_view text) {
-    const auto length = static_cast<std::uint32_t>(text.size());
-    char* at = reserve(sizeof length + length);
-    std::memcpy(at, &length, sizeof length);
-    if (length != 0) std::memcpy(at + sizeof length, text.data(), length);
+    if (text.size() >= StoredText::kLong) return addLong(text);
+    char* const at = reserve(1 + text.size());
+    *at = static_cast<char>(text.size());
+    if (!text.empty()) std::memcpy(at + 1, text.data(), text.size());
     return StoredText(at);
   }
 
  private:
+  StoredText addLong(std::string_view text);
   char* reserve(std::size_t bytes) {
     if (bytes > m_left) addBlock(bytes);
     char* at = m_next;

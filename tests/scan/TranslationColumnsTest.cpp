@@ -71,5 +71,26 @@ TEST_F(TranslationColumnsTest, LeavesRecordsWithoutEntriesAlone) {
   EXPECT_EQ(strings.records()[0]->languagesDict().count(), 0U);
 }
 
+TEST_F(TranslationColumnsTest, GivesManyRecordsTheirTranslations) {
+  constexpr KeyIndex::Number kRecords = 10'000;
+  for (KeyIndex::Number number = 3; number < kRecords; ++number) {
+    const std::string key = std::to_string(number);
+    strings.add({{key, ""}}, FileUrl("/b.m"));
+  }
+  Entries german;
+  for (KeyIndex::Number number = kRecords; number-- > 0;) german.push_back(entry(number, std::to_string(number)));
+  TranslationColumns columns(strings.records());
+  columns.add(kGerman, german);
+  columns.add(kFrench, Entries{entry(9'999, "last"), entry(5'000, "middle")});
+  columns.moveIntoRecords();
+  for (KeyIndex::Number number = 0; number < kRecords; ++number) {
+    ASSERT_EQ(translation(number, kGerman), std::to_string(number));
+    const bool isFrench = number == 5'000 || number == 9'999;
+    ASSERT_EQ(strings.records()[number]->languagesDict().count(), isFrench ? 2U : 1U) << number;
+  }
+  EXPECT_EQ(translation(5'000, kFrench), "middle");
+  EXPECT_EQ(translation(9'999, kFrench), "last");
+}
+
 }  // namespace
 }  // namespace glossmill
