@@ -10,7 +10,7 @@
 #include <mutex>
 #include <thread>
 
-#include "host/BriefYield.h"
+#include "platform/BriefYield.h"
 
 namespace glossmill {
 

@@ -49,13 +49,15 @@ DirectoryEntry askedEntry(DIR* directory, const char* name) {
   if (fstatat(dirfd(directory), name, &info, AT_SYMLINK_NOFOLLOW) != 0) return entry;
   if (S_ISLNK(info.st_mode)) return linkEntry(directory, name);
   entry.kind = kindOfMode(info.st_mode);
+  entry.isRegular = S_ISREG(info.st_mode);
   return entry;
 }
 
 DirectoryEntry entryOf(DIR* directory, const dirent& found) {
   if (found.d_type == DT_LNK) return linkEntry(directory, found.d_name);
   if (found.d_type == DT_UNKNOWN) return askedEntry(directory, found.d_name);
-  return {found.d_name, found.d_type == DT_DIR ? EntryKind::Directory : EntryKind::File, false};
+  const EntryKind kind = found.d_type == DT_DIR ? EntryKind::Directory : EntryKind::File;
+  return {found.d_name, kind, false, std::nullopt, found.d_type == DT_REG};
 }
 
 class PosixReader : public ByteReader {

@@ -29,6 +29,7 @@ struct DirectoryEntry {
   EntryKind kind = EntryKind::Missing;
   bool isLink = false;
   std::optional<FileIdentity> target = {};  ///< of a link, where the disk knows it
+  bool isRegular = false;                   ///< itself a file of bytes: no link, pipe or device
 };
 
 /// An open file that is read from front to back.
@@ -37,6 +38,9 @@ class ByteReader {
   virtual ~ByteReader() = default;
   /// Fills `buffer` as far as it can; 0 means the end of the file.
   virtual Result<std::size_t> read(std::span<char> buffer) = 0;
+  /// The whole file as UTF-8 text, its encoding detected, where that is known already; valid as long as this object.
+  /// Nothing has to be read then.
+  virtual std::optional<std::string_view> textAtHand() { return std::nullopt; }
 };
 
 /// What the scan needs of a disk. Called from any thread.
@@ -48,6 +52,9 @@ class FileReading {
   virtual EntryKind kindOf(const FileUrl& url) = 0;
   virtual std::optional<FileIdentity> identityOf(const FileUrl& url) = 0;
   virtual Result<std::unique_ptr<ByteReader>> open(const FileUrl& file) = 0;
+  /// Regular files that are going to be opened next, in this order, and not those that were named before. A hint: a
+  /// disk may read them ahead.
+  virtual void expect(std::vector<FileUrl> /*files*/) {}
 };
 
 /// Gives a long text piece by piece, each valid until the next is asked for, cut between characters; the empty piece is

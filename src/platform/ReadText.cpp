@@ -1,51 +1,29 @@
 #include "platform/ReadText.h"
 
-#include <vector>
+#include <memory>
 
-#include "text/TextDecoder.h"
+#include "platform/TextReader.h"
 
 namespace glossmill {
 
-namespace {
-
-constexpr std::size_t kWindow = 32 * 1024;
-
-/// Fills the window unless the file ends before: the decoder wants a first piece that is not short.
-Result<std::size_t> readWindow(ByteReader& reader, std::span<char> window) {
-  std::size_t filled = 0;
-  while (filled < window.size()) {
-    const Result<std::size_t> got = reader.read(window.subspan(filled));
-    if (!got) return got.error();
-    if (got.value() == 0) break;
-    filled += got.value();
-  }
-  return filled;
-}
-
-Outcome readPieces(ByteReader& reader, const std::function<void(std::string_view)>& sink) {
-  static thread_local std::vector<char> window(kWindow);
-  TextDecoder decoder;
-  while (true) {
-    const Result<std::size_t> got = readWindow(reader, window);
-    if (!got) return got.error();
-    const Outcome fed = decoder.feed({window.data(), got.value()}, sink);
-    if (!fed) return fed;
-    if (got.value() < window.size()) return decoder.finish();
-  }
-}
-
-}  // namespace
-
-Outcome readTextPieces(FileReading& files, const FileUrl& file, const std::function<void(std::string_view)>& sink) {
-  const Result<std::unique_ptr<ByteReader>> reader = files.open(file);
-  return reader ? readPieces(*reader.value(), sink) : Outcome(reader.error());
-}
-
 Result<std::string> readText(ByteReader& reader) {
   std::string text;
-  const Outcome outcome = readPieces(reader, [&text](std::string_view piece) { text.append(piece); });
-  if (!outcome) return outcome.error();
+  const Result<std::string_view> read = readText(reader, text);
+  if (!read) return read.error();
+  if (read.value().data() != text.data()) text = read.value();
   return text;
+}
+
+Result<std::string_view> readText(ByteReader& reader, std::string& room) {
+  if (const std::optional<std::string_view> atHand = reader.textAtHand()) return *atHand;
+  static thread_local const auto kPieceRoom = std::make_unique<TextReader::Room>();
+  TextReader pieces(reader);
+  room.clear();
+  while (true) {
+    const Result<bool> more = pieces.next(*kPieceRoom, [&room](std::string_view piece) { room.append(piece); });
+    if (!more) return more.error();
+    if (!more.value()) return std::string_view(room);
+  }
 }
 
 Result<std::string> readText(FileReading& files, const FileUrl& file) {

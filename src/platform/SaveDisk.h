@@ -85,7 +85,7 @@ class SaveDisk {
   /// Nothing while somebody else holds it.
   virtual Result<std::unique_ptr<DirectoryLock>> tryLock(const FileUrl& directory) = 0;
   virtual std::int64_t processId() const = 0;
-  /// Seconds since 1970, UTC.
+  /// Seconds since 1970, UTC. Any thread.
   virtual std::int64_t now() const = 0;
 };
 

@@ -3,7 +3,7 @@
 namespace glossmill {
 
 ScanRun::ScanRun(const ProjectRules& rules, const Parts& parts)
-    : m_rules(rules), m_parts(parts), m_reading(parts.files, parts.saves) {
+    : m_rules(rules), m_parts(parts), m_ahead(parts.files, parts.saves), m_reading(m_ahead, parts.saves) {
   m_reading.onUnlisted = [this](const FileUrl& directory, const Error& error) {
     happened(DirectoryUnread{directory, error});
   };

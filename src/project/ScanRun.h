@@ -4,6 +4,7 @@
 
 #include "model/ProjectRules.h"
 #include "model/ScanReport.h"
+#include "platform/ReadAhead.h"
 #include "platform/SaveDisk.h"
 #include "project/ReadFiles.h"
 #include "project/ScanMessages.h"
@@ -47,6 +48,7 @@ class ScanRun : private ScanListener {
 
   const ProjectRules& m_rules;
   const Parts m_parts;
+  ReadAhead m_ahead;
   WatchedReading m_reading;
 };
 

@@ -24,6 +24,8 @@ class WatchedReader : public ByteReader {
     }
     return got;
   }
+  /// What is at hand was whole, and the file on the disk was the same a moment ago, when this was opened.
+  std::optional<std::string_view> textAtHand() override { return m_inner->textAtHand(); }
 
  private:
   void lookAtEnd() {

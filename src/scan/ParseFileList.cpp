@@ -45,6 +45,7 @@ class FileListPhase : private TreeWalkListener {
   const ScanInput& m_input;
   ScanMemory& m_memory;
   ScanResult& m_result;
+  std::string m_text;  ///< of the source that is being read
   bool m_isCutOffTold = false;
 };
 
@@ -76,7 +77,8 @@ void FileListPhase::sourceFile(const FileUrl& file, const Result<std::unique_ptr
   m_memory.actualParseFileName = file;
   tell(SourceBegins{file});
   m_result.fileList.push_back(file);
-  const Result<std::string> text = opened ? readText(*opened.value()) : Result<std::string>(opened.error());
+  const Result<std::string_view> text =
+      opened ? readText(*opened.value(), m_text) : Result<std::string_view>(opened.error());
   if (!text) {
     tell(SourceUnread{file, text.error()});
     return;

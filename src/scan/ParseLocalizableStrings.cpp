@@ -3,7 +3,7 @@
 #include <span>
 
 #include "model/KeyReader.h"
-#include "platform/ReadText.h"
+#include "platform/TextAhead.h"
 #include "scan/TranslationColumns.h"
 #include "strings/StringsFileParser.h"
 
@@ -14,7 +14,11 @@ namespace {
 class StringsFilesPhase {
  public:
   StringsFilesPhase(const ScanInput& input, ScanResult& result)
-      : m_input(input), m_result(result), m_keys(result.stringList.keys()), m_columns(result.stringList.records()) {}
+      : m_input(input),
+        m_result(result),
+        m_files(input.files),
+        m_keys(result.stringList.keys()),
+        m_columns(result.stringList.records()) {}
 
   ScanEnd run() {
     const ScanEnd end = parseAll();
@@ -31,6 +35,7 @@ class StringsFilesPhase {
 
   const ScanInput& m_input;
   ScanResult& m_result;
+  TextAhead m_files;
   KeyReader m_keys;
   TranslationColumns m_columns;
 };
@@ -50,8 +55,7 @@ ScanEnd StringsFilesPhase::parse(const Language& language) {
   }
   tell(StringsFileBegins{file});
   StringsFileParser parser(m_keys, m_result.stringList.arena(), m_input.canceled);
-  const Outcome outcome =
-      readTextPieces(m_input.files, file, [&parser](std::string_view piece) { parser.feed(piece); });
+  const Outcome outcome = m_files.readPieces(file, [&parser](std::string_view piece) { parser.feed(piece); });
   if (!outcome) {
     tell(StringsFileUnread{file, outcome.error()});
     return ScanEnd::Complete;

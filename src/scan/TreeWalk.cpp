@@ -1,6 +1,7 @@
 #include "scan/TreeWalk.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "text/Utf16.h"
 
@@ -19,11 +20,29 @@ void TreeWalk::enter(const FileUrl& directory, const DirectoryEntry& listed,
   ++m_state.actualDirectoryDepth;  // also when the listing failed
   if (!entries) return;
   m_trail.enter(directory, listed);
-  for (const DirectoryEntry& entry : entries.value()) {
-    if (m_input.canceled.isSet()) break;
-    visit(directory.appending(entry.name), entry);
+  std::span<const DirectoryEntry> rest = entries.value();
+  for (std::size_t announced = 0; !rest.empty() && !m_input.canceled.isSet(); rest = rest.subspan(1), --announced) {
+    if (announced == 0) announced = expectSources(directory, rest);
+    visit(directory.appending(rest.front().name), rest.front());
   }
   m_trail.leave();
+}
+
+/// Tells the disk which sources come in front of the next directory; returns how many entries it looked at, at least
+/// one.
+std::size_t TreeWalk::expectSources(const FileUrl& directory, std::span<const DirectoryEntry> entries) {
+  std::vector<FileUrl> sources;
+  std::size_t count = 0;
+  for (; count < entries.size() && entries[count].kind == EntryKind::File; ++count) {
+    const DirectoryEntry& entry = entries[count];
+    if (entry.isRegular && isMember(entry.name)) sources.push_back(directory.appending(entry.name));
+  }
+  if (sources.size() > 1) m_input.files.expect(std::move(sources));
+  return std::max<std::size_t>(count, 1);
+}
+
+bool TreeWalk::isMember(std::string_view name) const {
+  return extensionOfName(name) == "m" && (!m_input.members || m_input.members->mentions(name));
 }
 
 /// What the listing said of an entry may be over by now. To ask about each would cost more than the walk: it is asked
@@ -48,8 +67,7 @@ void TreeWalk::directoryEntry(const FileUrl& url, const DirectoryEntry& entry) {
 
 void TreeWalk::fileEntry(const FileUrl& url, const DirectoryEntry& entry) {
   if (entry.name == kStringsFileName && m_state.actualLanguage) stringsFile(url);
-  if (url.pathExtension() != "m") return;
-  if (!m_input.members || m_input.members->mentions(entry.name)) sourceFile(url, entry);
+  if (isMember(entry.name)) sourceFile(url, entry);
 }
 
 void TreeWalk::stringsFile(const FileUrl& url) {

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -48,6 +49,8 @@ class TreeWalk {
   const std::optional<FileUrl>& cutOff() const { return m_trail.cutOff(); }
 
  private:
+  std::size_t expectSources(const FileUrl& directory, std::span<const DirectoryEntry> entries);
+  bool isMember(std::string_view name) const;
   void visit(const FileUrl& url, const DirectoryEntry& entry);
   void directoryEntry(const FileUrl& url, const DirectoryEntry& entry);
   void enter(const FileUrl& directory, const DirectoryEntry& listed,

@@ -29,6 +29,8 @@ class TextDecoder {
   using Sink = std::function<void(std::string_view)>;
 
   Outcome feed(std::string_view bytes, const Sink& sink);
+  /// Exchanges the room for decoded text: so what the last feed() passed on may outlive the next.
+  void swapRoom(std::string& room) { m_decoded.swap(room); }
   /// The end of the file: an error when a sequence is left unfinished.
   Outcome finish();
 

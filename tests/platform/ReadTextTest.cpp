@@ -4,7 +4,6 @@
 
 #include "platform/FakeFileReading.h"
 #include "platform/ReadText.h"
-#include "text/Utf8.h"
 
 namespace glossmill {
 namespace {
@@ -124,35 +123,6 @@ TEST(ReadText, RefusesAFileThatEndsInTheMiddleOfASequence) {
     FakeFileReading disk(kFile, std::string(before, 'a') + "\xE2\x82");
     expectError(disk, "The file is not valid UTF-8 and has no byte-order mark of another encoding.");
   }
-}
-
-TEST(ReadTextPieces, DeliversPiecesThatTogetherAreTheText) {
-  std::string text;
-  while (text.size() < 3 * kWindow) text += "Größe € 泊\n";
-  FakeFileReading disk(kFile, text);
-  std::string together;
-  std::size_t longest = 0;
-  const Outcome outcome = readTextPieces(disk, kFile, [&](std::string_view piece) {
-    EXPECT_TRUE(isValidUtf8(piece));
-    longest = std::max(longest, piece.size());
-    together.append(piece);
-  });
-  EXPECT_TRUE(outcome.ok());
-  EXPECT_TRUE(together == text);
-  EXPECT_LE(longest, kWindow);
-}
-
-TEST(ReadTextPieces, DeliversNothingForAnEmptyFile) {
-  FakeFileReading disk(kFile, "");
-  bool called = false;
-  EXPECT_TRUE(readTextPieces(disk, kFile, [&called](std::string_view) { called = true; }).ok());
-  EXPECT_FALSE(called);
-}
-
-TEST(ReadTextPieces, StopsReadingAtTheFirstMalformedPiece) {
-  FakeFileReading disk(kFile, "\xFF" + std::string(10 * kWindow, 'a'));
-  EXPECT_FALSE(readTextPieces(disk, kFile, [](std::string_view) {}).ok());
-  EXPECT_EQ(disk.readCount(), 1U);
 }
 
 }  // namespace

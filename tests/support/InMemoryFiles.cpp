@@ -212,7 +212,8 @@ std::vector<std::string> InMemoryFiles::created() {
 DirectoryEntry InMemoryFiles::entryAt(const std::string& path, std::string_view name) const {
   const bool isLink = find(path)->linkTarget.has_value();
   const Node* target = isLink ? reach(path) : find(path);
-  return {std::string(name), target ? target->kind : EntryKind::Missing, isLink};
+  const EntryKind kind = target ? target->kind : EntryKind::Missing;
+  return {std::string(name), kind, isLink, std::nullopt, !isLink && kind == EntryKind::File};
 }
 
 Result<std::vector<DirectoryEntry>> InMemoryFiles::list(const FileUrl& directory) {

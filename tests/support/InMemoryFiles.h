@@ -63,6 +63,8 @@ class InMemoryFiles : public Files {
   /// Set them before the first background job.
   std::function<void(const std::string& path)> onList;
   std::function<void(const std::string& path)> onOpen;
+  /// Called on the asker's thread with the files that are going to be opened.
+  std::function<void(const std::vector<FileUrl>& files)> onExpect;
 
   // ---- The disk itself ----
 
@@ -70,6 +72,9 @@ class InMemoryFiles : public Files {
   EntryKind kindOf(const FileUrl& url) override;
   std::optional<FileIdentity> identityOf(const FileUrl& url) override;
   Result<std::unique_ptr<ByteReader>> open(const FileUrl& file) override;
+  void expect(std::vector<FileUrl> files) override {
+    if (onExpect) onExpect(files);
+  }
   Outcome createDirectory(const FileUrl& directory, bool intermediate) override;
   Outcome writeText(const FileUrl& file, std::string_view text) override;
 

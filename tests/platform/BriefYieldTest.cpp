@@ -3,7 +3,7 @@
 #include <atomic>
 #include <thread>
 
-#include "host/BriefYield.h"
+#include "platform/BriefYield.h"
 
 namespace glossmill {
 namespace {
