@@ -3,13 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "xcode/SourceText.h"
+
 namespace glossmill {
 
 namespace {
-
-bool isDigit(char character) {
-  return character >= '0' && character <= '9';
-}
 
 bool isLetter(char character) {
   const char lower = static_cast<char>(character | 0x20);

@@ -4,16 +4,13 @@
 
 #include "xcode/JsonText.h"
 #include "xcode/PlistWords.h"
+#include "xcode/SourceText.h"
 
 namespace glossmill {
 
 namespace {
 
 using Number = ValueTree::Number;
-
-bool isDigit(char character) {
-  return character >= '0' && character <= '9';
-}
 
 /// Behind the number at `at`; `at` when there is none.
 std::size_t endOfNumber(std::string_view text, std::size_t at) {
