@@ -64,6 +64,18 @@ TEST(PosixFilesListing, TellsFilesFromDirectories) {
   EXPECT_FALSE(file.isLink);
 }
 
+TEST(PosixFilesListing, TellsFilesOfBytesFromAllElse) {
+  const TemporaryDirectory directory;
+  directory.makeFile("a file", "");
+  directory.makeDirectory("b directory");
+  directory.makeLink("c link", "a file");
+  ASSERT_EQ(mkfifo(directory.path("d pipe").c_str(), 0600), 0);
+  const Result<std::vector<DirectoryEntry>> listed = PosixFiles().list(directory.url());
+  ASSERT_TRUE(listed.ok() && listed.value().size() == 4);
+  EXPECT_TRUE(listed.value()[0].isRegular);
+  for (std::size_t other = 1; other < 4; ++other) EXPECT_FALSE(listed.value()[other].isRegular) << other;
+}
+
 TEST(PosixFilesListing, GivesALinkTheKindOfItsTarget) {
   const TemporaryDirectory directory;
   directory.makeDirectory("target");

@@ -29,6 +29,13 @@ TEST_F(WatchedReadingTest, WhatIsReadCompletelyLeavesNothing) {
   EXPECT_EQ(places(), Paths());
 }
 
+TEST_F(WatchedReadingTest, TellsItsDiskWhatIsExpected) {
+  std::vector<FileUrl> told;
+  files.onExpect = [&told](const std::vector<FileUrl>& expected) { told = expected; };
+  watch.expect({FileUrl("/x/a.m"), FileUrl("/x/b.m")});
+  EXPECT_EQ(told, (std::vector{FileUrl("/x/a.m"), FileUrl("/x/b.m")}));
+}
+
 TEST_F(WatchedReadingTest, ADirectoryThatCannotBeListedIsNamedWithItsReason) {
   files.failListing("/x", "No.");
   EXPECT_FALSE(watch.list(FileUrl("/x")));
