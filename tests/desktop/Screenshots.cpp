@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -130,7 +131,8 @@ class Photographer {
       auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       if (!question) std::exit(1);
       save(*question, "rules-closing");
-      question->buttons().last()->click();
+      QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+      QApplication::sendEvent(question, &escape);
     });
     m_program.delegate().projectWindowController()->closeProject();
   }

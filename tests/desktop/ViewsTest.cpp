@@ -104,7 +104,7 @@ class ViewsTest : public DesktopFixture {
     QCOMPARE(firstColumn(strings()), Keys());
     chooseTable(0);
     only(1).trigger();
-    QCOMPARE(widget<QPushButton>("onlyButton").text(), QStringLiteral("All"));
+    QCOMPARE(widget<QPushButton>("onlyButton").text(), QStringLiteral("Filter"));
     QCOMPARE(firstColumn(strings()).size(), 5);
   }
 
@@ -234,6 +234,17 @@ class ViewsTest : public DesktopFixture {
     QCOMPARE(widget<QPlainTextEdit>("sourceText").toPlainText(), QStringLiteral("Ebbe"));
     QCOMPARE(cell(strings(), QStringLiteral("Tide"), kSourceColumn), QStringLiteral("Gezeiten"));
     QCOMPARE(widget<QLabel>("sourceLabel").text(), QStringLiteral("Reference: de"));
+  }
+
+  void showTheSelectedStringAfterAReload() {
+    demo().growBy(200);
+    openDemo();
+    select(strings(), QStringLiteral("string 199"));
+    QVERIFY(project().reloadProject());
+    waitForJob();
+    QCOMPARE(toQt(project().selectedString()->name()), QStringLiteral("string 199"));
+    const QRect row = strings().visualRect(strings().currentIndex());
+    QVERIFY(strings().viewport()->rect().contains(row.center()));
   }
 
   void forgetTheTableWithTheProject() {

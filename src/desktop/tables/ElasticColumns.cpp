@@ -40,8 +40,10 @@ void ElasticColumns::distribute(int extra) {
     const int width = header.sectionSize(column);
     if (width == 0) continue;
     const int share = static_cast<int>(static_cast<qint64>(extra) * width / whole);
-    header.resizeSection(column, std::max(width + share, kNarrowest));
-    extra -= share;
+    const int narrowest = std::max(kNarrowest, header.sectionSizeHint(column));
+    const int wanted = std::max(width + share, std::min(width, narrowest));
+    header.resizeSection(column, wanted);
+    extra -= wanted - width;
     whole -= width;
     if (whole == 0) break;
   }

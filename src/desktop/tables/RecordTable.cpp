@@ -148,9 +148,10 @@ void RecordTable::settle() {
   if (std::exchange(m_selectionWaits, false)) showSelection(Scrolling::ToSelection);
 }
 
-/// Whoever could see the selection before can see it afterwards; otherwise the topmost record stays where it was.
+/// Whoever could see the selection before can see it afterwards, and so it is in a table that was empty; otherwise the
+/// topmost record stays where it was.
 void RecordTable::showRows() {
-  const bool selectionWasVisible = isSelectionVisible();
+  const bool selectionWasVisible = isSelectionVisible() || m_model.rowCount() == 0;
   {
     const QScopedValueRollback syncing(m_syncing, true);
     m_model.reset(m_rows->count());

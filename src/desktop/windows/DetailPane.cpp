@@ -39,6 +39,7 @@ void DetailPane::stringSelected() {
 
 QString DetailPane::commentsAndFiles(const LocalizeString& record) const {
   const QString comments = toQt(record.comment());
+  if (record.filesArray().empty()) return comments;
   const QString files = toQt(formatText(m_bundle.localizedString("Files: %@"), {record.sourceList()}));
   return comments.isEmpty() ? files : comments + QLatin1Char('\n') + files;
 }

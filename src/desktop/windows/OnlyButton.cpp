@@ -45,7 +45,7 @@ void OnlyButton::showOnButton() {
     if (action->isChecked()) chosen.append(action->text().remove(QLatin1Char('&')));
   }
   const QString list = chosen.join(QStringLiteral(", "));
-  const std::string text = chosen.isEmpty() ? m_bundle.localizedString("All")
+  const std::string text = chosen.isEmpty() ? m_bundle.localizedString("Filter")
                                             : formatText(m_bundle.localizedString("Only: %@"), {fromQt(list)});
   m_button.setText(toQt(text));
 }

@@ -13,9 +13,9 @@ namespace {
 
 constexpr int kKeyColumn = 0;
 
-/// The columns of texts, which take what the table becomes wider.
-const std::vector<int> kTexts = {static_cast<int>(SortKey::Key), static_cast<int>(SortKey::Translation),
-                                 static_cast<int>(SortKey::Comment), static_cast<int>(SortKey::Source)};
+/// The columns of texts, which take what the table becomes wider; the one that gets too narrow first comes first.
+const std::vector<int> kTexts = {static_cast<int>(SortKey::Comment), static_cast<int>(SortKey::Key),
+                                 static_cast<int>(SortKey::Translation), static_cast<int>(SortKey::Source)};
 
 QString keyFor(const QString& part) {
   return toQt(setting(SettingId::WindowLayout).key) + QStringLiteral("/stringColumns/") + part;
