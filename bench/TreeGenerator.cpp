@@ -12,6 +12,7 @@
 #include "tree/ProjectTree.h"
 #include "tree/TreeWriter.h"
 #include "tree/Vocabulary.h"
+#include "tree/XcodeHostileTrees.h"
 
 namespace glossmill::bench {
 
@@ -52,7 +53,7 @@ constexpr std::size_t kMaximalBytes = 1'000'000'000;
 // Beyond it the class names of the sources would repeat.
 constexpr std::size_t kMaximalManyKeys = 100 * kMaximalClasses;
 
-constexpr std::array<Kind, 16> kKinds = {{
+constexpr std::array<Kind, 22> kKinds = {{
     {"large", 0, 0, writeLarge},
     {"medium", 0, 0, writeMedium},
     {"large-strays", 0, 0, writeLargeWithStrays},
@@ -69,6 +70,12 @@ constexpr std::array<Kind, 16> kKinds = {{
     {"badcomments", kCalls, kMaximalCalls, writeBadComments},
     {"stars", kCalls, kMaximalCalls, writeStars},
     {"quotes", kCalls, kMaximalCalls, writeQuotes},
+    {"literals", kCalls, kMaximalCalls, writeLiterals},
+    {"groups", kCalls, kMaximalCalls, writeGroups},
+    {"macros", kCalls, kMaximalCalls, writeMacros},
+    {"tables", 2'000, 100'000, writeTables},
+    {"callline", 50'000'000, kMaximalBytes, writeCallLine},
+    {"repeated", 1'000'000, kMaximalCalls, writeRepeatedKeys},
 }};
 
 int explainUsage() {
