@@ -28,42 +28,52 @@ class Insertions {
   const StringsEntry& entryAt(const StringsPlace& place) const { return m_layout.document().entries()[place.entry]; }
   void insert(std::size_t at, std::string text) { m_replacements.push_back({at, at, std::move(text)}); }
 
-  const StringsStyle& styleOf(std::size_t entry);
+  /// What stands around a place: looking at it takes as long as the comments there.
+  struct Spot {
+    std::size_t entry = 0;
+    StringsPlace::Side side = StringsPlace::Side::Alone;
+    StringsStyle style;
+    bool isInLine = false;
+    std::size_t line = 0;  ///< where new lines go
+  };
+
+  const Spot& spotOf(const StringsPlace& place);
   bool isInLine(const StringsPlace& place) const;
   std::size_t lineInFront(std::size_t entry) const;
   void insertInLine(const StringsPlace& place, const std::string& text);
-  void insertLines(const StringsPlace& place, const StringsStyle& style, const std::string& text);
+  void insertLines(const StringsPlace& place, const Spot& spot, const std::string& text);
 
   const StringsLayout& m_layout;
-  std::optional<StringsStyle> m_style;
-  std::size_t m_styledEntry = 0;
+  std::optional<Spot> m_spot;
   std::unordered_set<std::size_t> m_completed;  ///< entries that got their semicolon
   std::vector<TextReplacement> m_replacements;
 };
 
 Outcome Insertions::add(const NewStringsEntry& entry, const StringsPlace& place) {
-  StringsStyle style = styleOf(place.entry);
-  const bool inLine = isInLine(place);
-  if (inLine) style.comments = StringsStyle::Comments::None;
-  const Result<std::string> text = style.entry(entry.key, entry.value, entry.comment);
+  const Spot& spot = spotOf(place);
+  const Result<std::string> text = spot.style.entry(entry.key, entry.value, entry.comment);
   if (!text) return text.error();
   const bool isBehind = place.side == StringsPlace::Side::Behind;
   if (isBehind && !entryAt(place).hasSemicolon && m_completed.insert(place.entry).second) {
     insert(entryAt(place).end, ";");
   }
-  if (inLine) {
+  if (spot.isInLine) {
     insertInLine(place, text.value());
   } else {
-    insertLines(place, style, text.value());
+    insertLines(place, spot, text.value());
   }
   return Done{};
 }
 
 /// The last one is kept: it is asked for again while new entries follow one another.
-const StringsStyle& Insertions::styleOf(std::size_t entry) {
-  if (!m_style || m_styledEntry != entry) m_style = styleAround(m_layout, entry);
-  m_styledEntry = entry;
-  return *m_style;
+const Insertions::Spot& Insertions::spotOf(const StringsPlace& place) {
+  if (m_spot && m_spot->entry == place.entry && m_spot->side == place.side) return *m_spot;
+  const bool isBehind = place.side == StringsPlace::Side::Behind;
+  const bool inLine = isInLine(place);
+  const std::size_t line = isBehind ? m_layout.endWithComments(place.entry) : lineInFront(place.entry);
+  m_spot = Spot{place.entry, place.side, styleAround(m_layout, place.entry), inLine, line};
+  if (inLine) m_spot->style.comments = StringsStyle::Comments::None;
+  return *m_spot;
 }
 
 /// True when something stands where a line of its own would begin or end.
@@ -84,12 +94,12 @@ void Insertions::insertInLine(const StringsPlace& place, const std::string& text
   }
 }
 
-void Insertions::insertLines(const StringsPlace& place, const StringsStyle& style, const std::string& text) {
-  const std::string lineEnds = repeated(style.lineEnd, style.blankLines + 1);
+void Insertions::insertLines(const StringsPlace& place, const Spot& spot, const std::string& text) {
+  const std::string lineEnds = repeated(spot.style.lineEnd, spot.style.blankLines + 1);
   if (place.side == StringsPlace::Side::Behind) {
-    insert(m_layout.endWithComments(place.entry), lineEnds + style.indentation + text);
+    insert(spot.line, lineEnds + spot.style.indentation + text);
   } else {
-    insert(lineInFront(place.entry), style.indentation + text + lineEnds);
+    insert(spot.line, spot.style.indentation + text + lineEnds);
   }
 }
 
