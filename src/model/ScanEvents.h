@@ -73,6 +73,10 @@ struct StringsFileMissing {
 struct StringsFileBegins {
   const FileUrl& file;
 };
+/// From now on the file may be read; it begins when its turn comes.
+struct StringsFileExpected {
+  const FileUrl& file;
+};
 struct StringsFileUnread {
   const FileUrl& file;
   const Error& error;
@@ -104,10 +108,10 @@ struct ProblemFound {
   const Problem& problem;
 };
 
-using ScanEvent =
-    std::variant<PackageFound, NoPackageFound, DirectoryUnread, LinksCutOff, ProjectFileUnread, OldLanguageName,
-                 StringsFileFound, SourceBegins, SourceUnread, CallRejected, StringsFileMissing, StringsFileBegins,
-                 StringsFileUnread, LinesCounted, EntryRejected, EntryWithoutMatch, StringsFileRead, ProblemFound>;
+using ScanEvent = std::variant<PackageFound, NoPackageFound, DirectoryUnread, LinksCutOff, ProjectFileUnread,
+                               OldLanguageName, StringsFileFound, SourceBegins, SourceUnread, CallRejected,
+                               StringsFileMissing, StringsFileBegins, StringsFileUnread, LinesCounted, EntryRejected,
+                               EntryWithoutMatch, StringsFileRead, ProblemFound, StringsFileExpected>;
 
 /// Hears of what happens while a project is read: at once, in its order, on the thread that reads.
 class ScanListener {

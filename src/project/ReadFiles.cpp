@@ -10,6 +10,7 @@ namespace glossmill {
 void ReadFiles::add(const ScanEvent& event, SaveDisk& disk) {
   std::visit(Overloaded{
                  [&](const PackageFound& it) { begin(it.package.appending("project.pbxproj"), disk); },
+                 [&](const StringsFileExpected& it) { expect(it.file, disk); },
                  [&](const StringsFileBegins& it) { begin(it.file, disk); },
                  [&](const StringsFileMissing& it) { beginWithout(it.language, disk); },
                  [this](const EntryRejected&) { ++m_leftOut; },
@@ -20,9 +21,16 @@ void ReadFiles::add(const ScanEvent& event, SaveDisk& disk) {
              event);
 }
 
+void ReadFiles::expect(const FileUrl& file, SaveDisk& disk) {
+  const Result<std::optional<FileStamp>> stamp = disk.stampOf(file);
+  m_expected[file.path()] = stamp ? stamp.value() : std::nullopt;
+}
+
 /// Looks at the file before it is read: whoever writes it meanwhile gives it another stamp.
 void ReadFiles::begin(const FileUrl& file, SaveDisk& disk) {
   m_leftOut = 0;
+  auto expected = m_expected.extract(file.path());
+  if (!expected.empty()) return set(file, {expected.mapped(), std::nullopt});
   const Result<std::optional<FileStamp>> stamp = disk.stampOf(file);
   set(file, {stamp ? stamp.value() : std::nullopt, std::nullopt});
 }

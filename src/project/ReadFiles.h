@@ -20,7 +20,10 @@ class ReadFiles {
     std::optional<std::uint64_t> entries;  ///< accepted or not; nothing: it could not be read
   };
 
-  void clear() { m_files.clear(); }
+  void clear() {
+    m_files.clear();
+    m_expected.clear();
+  }
   /// What happens in a scan.
   void add(const ScanEvent& event, SaveDisk& disk);
   void set(const FileUrl& file, const File& known) { m_files[file.path()] = known; }
@@ -33,11 +36,13 @@ class ReadFiles {
   }
 
  private:
+  void expect(const FileUrl& file, SaveDisk& disk);
   void begin(const FileUrl& file, SaveDisk& disk);
   void beginWithout(const Language& language, SaveDisk& disk);
 
   std::map<std::string, File> m_files;
-  std::uint64_t m_leftOut = 0;  ///< entries of the file that is being read
+  std::map<std::string, std::optional<FileStamp>> m_expected;  ///< what they were before anybody read them
+  std::uint64_t m_leftOut = 0;                                 ///< entries of the file that is being read
 };
 
 }  // namespace glossmill

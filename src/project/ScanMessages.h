@@ -39,6 +39,7 @@ class ScanMessages {
   void writeEvent(const EntryRejected& event);
   void writeEvent(const EntryWithoutMatch& event);
   void writeEvent(const StringsFileRead&) {}
+  void writeEvent(const StringsFileExpected&) {}
   void writeEvent(const ProblemFound& event);
   std::string localized(std::string_view key) const { return m_bundle.localizedString(key); }
 

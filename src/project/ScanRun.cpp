@@ -1,5 +1,7 @@
 #include "project/ScanRun.h"
 
+#include <algorithm>
+
 namespace glossmill {
 
 ScanRun::ScanRun(const ProjectRules& rules, const Parts& parts)
@@ -28,9 +30,18 @@ FileRole ScanRun::roleOf(const UnreadPlace& place) const {
   return place.kind == EntryKind::File ? FileRole::Source : FileRole::Unknown;
 }
 
+/// By xcode's rules two threads read, and which of them has a mishap first is chance.
+std::vector<UnreadPlace> ScanRun::unread() const {
+  std::vector<UnreadPlace> places = m_reading.unread();
+  if (m_parts.options.rules == RuleSet::Classic) return places;
+  std::sort(places.begin(), places.end(),
+            [](const UnreadPlace& a, const UnreadPlace& b) { return a.url.path() < b.url.path(); });
+  return places;
+}
+
 void ScanRun::finishReport() {
   std::vector<FileFindings> places;
-  for (const UnreadPlace& place : m_reading.unread()) {
+  for (const UnreadPlace& place : unread()) {
     places.push_back({place.url, roleOf(place), Error{place.sentence}, {}, 0, 0});
   }
   report.addUnread(places);

@@ -39,7 +39,7 @@ class ScanRun : private ScanListener {
   ScanReport report;
   ReadFiles readFiles;
   /// What the system did not give, or not completely.
-  std::vector<UnreadPlace> unread() const { return m_reading.unread(); }
+  std::vector<UnreadPlace> unread() const;
 
  private:
   ScanInput input() { return {m_reading, m_parts.isoTable, m_parts.canceled, *this, m_parts.options}; }

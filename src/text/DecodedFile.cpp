@@ -110,9 +110,10 @@ Result<std::string> eightBitText(std::string_view bytes, EightBitEncoding encodi
   return text;
 }
 
-Result<DecodedFile> withText(Result<std::string> text, FileEncoding encoding, bool hasMark) {
+Result<FileTextView> viewOf(Result<std::string> text, FileEncoding encoding, bool hasMark, std::string& decoded) {
   if (!text) return text.error();
-  return DecodedFile{std::move(text.value()), encoding, hasMark};
+  decoded = std::move(text.value());
+  return FileTextView{decoded, encoding, hasMark};
 }
 
 }  // namespace
@@ -132,15 +133,25 @@ std::string_view displayName(const FileEncoding& encoding) {
   return findEncoding([&](const EncodingName& name) { return name.encoding == encoding; })->displayName;
 }
 
-Result<DecodedFile> textOfFile(std::string bytes, std::optional<FileEncoding> otherwise) {
+Result<FileTextView> viewOfFile(std::string_view bytes, std::optional<FileEncoding> otherwise, std::string& decoded) {
   const DetectedEncoding detected = detectEncoding(bytes);
   const bool hasMark = detected.markLength != 0;
-  if (detected.encoding != TextEncoding::Utf8) return withText(decodeText(bytes), detected.encoding, hasMark);
-  const bool isUtf8 = isValidUtf8(bytes);
-  if (!isUtf8 && !hasMark && otherwise) return withText(decodeAs(bytes, *otherwise), *otherwise, false);
-  if (!isUtf8) return decodeText(bytes).error();
-  bytes.erase(0, detected.markLength);
-  return DecodedFile{std::move(bytes), TextEncoding::Utf8, hasMark};
+  if (detected.encoding != TextEncoding::Utf8) {
+    return viewOf(decodeText(bytes), detected.encoding, hasMark, decoded);
+  }
+  const std::size_t valid = validUtf8Prefix(bytes);
+  if (valid == bytes.size()) return FileTextView{bytes.substr(detected.markLength), TextEncoding::Utf8, hasMark};
+  if (!hasMark && otherwise) return viewOf(decodeAs(bytes, *otherwise), *otherwise, false, decoded);
+  return decodeText(bytes).error();
+}
+
+Result<DecodedFile> textOfFile(std::string_view bytes, std::optional<FileEncoding> otherwise) {
+  std::string decoded;
+  const Result<FileTextView> view = viewOfFile(bytes, otherwise, decoded);
+  if (!view) return view.error();
+  const bool isDecoded = view.value().text.data() == decoded.data();
+  return DecodedFile{isDecoded ? std::move(decoded) : std::string(view.value().text), view.value().encoding,
+                     view.value().hasMark};
 }
 
 /// The decoder believes marks, so it is given the one that fits.

@@ -31,8 +31,17 @@ struct DecodedFile {
   bool hasMark = false;
 };
 
+/// The same where it lies.
+struct FileTextView {
+  std::string_view text;
+  FileEncoding encoding = TextEncoding::Utf8;
+  bool hasMark = false;
+};
+
 /// By the byte-order mark, else UTF-16 by its zero bytes, else UTF-8, else `otherwise`.
-Result<DecodedFile> textOfFile(std::string bytes, std::optional<FileEncoding> otherwise);
+Result<DecodedFile> textOfFile(std::string_view bytes, std::optional<FileEncoding> otherwise);
+/// The same without a copy: the text is part of the bytes or, where these had to be decoded, all of `decoded`.
+Result<FileTextView> viewOfFile(std::string_view bytes, std::optional<FileEncoding> otherwise, std::string& decoded);
 
 /// The bytes of text in `encoding`, whatever marks and zero bytes say.
 Result<std::string> decodeAs(std::string_view bytes, const FileEncoding& encoding);

@@ -201,10 +201,16 @@ Outcome TextDecoder::feedUtf32(std::string_view bytes, const Sink& sink) {
 }
 
 Result<std::string> decodeText(std::string_view bytes) {
+  // What a piece gives stays in the cache until it is copied.
+  constexpr std::size_t kPieceBytes = 16 * 1024;
   std::string text;
+  text.reserve(bytes.size() / 2 + bytes.size() / 8);
   TextDecoder decoder;
-  const Outcome fed = decoder.feed(bytes, [&text](std::string_view piece) { text.append(piece); });
-  if (!fed) return fed.error();
+  for (std::size_t at = 0; at < bytes.size(); at += kPieceBytes) {
+    const Outcome fed =
+        decoder.feed(bytes.substr(at, kPieceBytes), [&text](std::string_view piece) { text.append(piece); });
+    if (!fed) return fed.error();
+  }
   const Outcome finished = decoder.finish();
   if (!finished) return finished.error();
   return text;

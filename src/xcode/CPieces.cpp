@@ -4,6 +4,7 @@
 #include <string>
 
 #include "text/ByteSearch.h"
+#include "xcode/AnyByteSearch.h"
 #include "xcode/SourceText.h"
 
 namespace glossmill {
@@ -54,16 +55,11 @@ std::size_t blockCommentEnd(std::string_view text, std::size_t at) {
 
 LiteralEnd quotedEnd(std::string_view text, std::size_t at) {
   const char quote = text[at++];
-  while (at < text.size()) {
-    const char byte = text[at];
-    if (byte == quote) return {at + 1};
-    if (isLineEnd(byte)) break;
-    if (byte == '\\') {
-      const std::size_t behind = afterContinuations(text, at);
-      at = behind != at ? behind : afterContinuations(text, at + 1) + 1;
-    } else {
-      ++at;
-    }
+  const auto next = quote == '"' ? findAnyOf<'"', '\\', '\n', '\r'> : findAnyOf<'\'', '\\', '\n', '\r'>;
+  for (at = next(text, at); at < text.size() && !isLineEnd(text[at]); at = next(text, at)) {
+    if (text[at] == quote) return {at + 1};
+    const std::size_t behind = afterContinuations(text, at);
+    at = behind != at ? behind : afterContinuations(text, at + 1) + 1;
   }
   return {std::min(at, text.size()), true};
 }

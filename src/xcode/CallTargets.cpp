@@ -1,25 +1,46 @@
 #include "xcode/CallTargets.h"
 
 #include <algorithm>
-#include <iterator>
-#include <tuple>
+#include <compare>
 
 namespace glossmill {
 
 namespace {
 
-bool haveCommon(const std::vector<std::uint32_t>& a, const std::vector<std::uint32_t>& b) {
-  auto left = a.begin();
-  auto right = b.begin();
-  while (left != a.end() && right != b.end()) {
-    if (*left == *right) return true;
-    *left < *right ? ++left : ++right;
-  }
-  return false;
-}
-
 std::size_t depthOf(std::string_view path) {
   return path == "/" ? 0 : static_cast<std::size_t>(std::count(path.begin(), path.end(), '/'));
+}
+
+/// Calls `visit(directory, depth)` with a directory and all above it.
+template <typename Visit>
+void eachAbove(std::string_view directory, Visit visit) {
+  for (std::size_t depth = depthOf(directory); depth > 0; --depth) {
+    visit(directory, depth);
+    directory = directoryOf(directory);
+  }
+  visit(std::string_view("/"), 0);
+}
+
+/// Orders tables by what matters most.
+struct Nearness {
+  std::size_t steps = static_cast<std::size_t>(-1);
+  std::size_t preference = 0;
+  std::uint32_t table = 0;
+  auto operator<=>(const Nearness&) const = default;
+};
+
+template <typename Highest>
+Nearness nearestIn(const Highest& highest, const MemberFile& source, std::size_t preference) {
+  const std::string_view directory = directoryOf(source.path);
+  const std::size_t from = depthOf(directory);
+  Nearness nearest;
+  eachAbove(directory, [&](std::string_view above, std::size_t depth) {
+    const auto found = highest.find(above);
+    if (found == highest.end()) return;
+    const auto [tableDepth, table] = found->second;
+    nearest = std::min(nearest, Nearness{from + tableDepth - 2 * depth, preference, table});
+  });
+  return nearest;
 }
 
 }  // namespace
@@ -27,60 +48,61 @@ std::size_t depthOf(std::string_view path) {
 CallTargets::CallTargets(const std::vector<TableList::Table>& tables, const std::vector<XcodePackage>& packages)
     : m_tables(tables), m_packages(packages) {
   for (std::uint32_t number = 0; number < tables.size(); ++number) {
-    m_named[tables[number].table->name].push_back(number);
+    Named& named = m_named[tables[number].table->name];
+    named.all.push_back(number);
+    for (const std::uint32_t target : tables[number].targets) named.byTarget[target].push_back(number);
   }
 }
 
-CallTargets::TableNumbers CallTargets::tablesFor(std::string_view name, const MemberFile& source,
-                                                 const HoldsKey& holdsKey) {
+const CallTargets::TableNumbers& CallTargets::tablesFor(std::string_view name, const MemberFile& source,
+                                                        const Holders& holders) {
+  static const TableNumbers kNone;
   const auto named = m_named.find(name);
-  if (named == m_named.end()) return {};
-  if (named->second.size() == 1) return named->second;
-  const Choice& choice = choiceFor(named->first, source);
+  if (named == m_named.end()) return kNone;
+  if (named->second.all.size() == 1) return named->second.all;
+  const Choice& choice = choiceFor(named->second, named->first, source);
   if (!choice.ofTargets.empty()) return choice.ofTargets;
-  TableNumbers holding;
-  std::copy_if(named->second.begin(), named->second.end(), std::back_inserter(holding), holdsKey);
+  const TableNumbers& holding = holders(named->second.all);
   return holding.empty() ? choice.nearest : holding;
 }
 
 /// Calls come source by source.
-const CallTargets::Choice& CallTargets::choiceFor(std::string_view name, const MemberFile& source) {
+const CallTargets::Choice& CallTargets::choiceFor(Named& named, std::string_view name, const MemberFile& source) {
   if (m_source != &source) m_choices.clear();
   m_source = &source;
   const auto [known, isNew] = m_choices.try_emplace(name);
   Choice& choice = known->second;
   if (!isNew) return choice;
-  const TableNumbers& named = m_named.find(name)->second;
-  std::copy_if(named.begin(), named.end(), std::back_inserter(choice.ofTargets),
-               [&](std::uint32_t table) { return haveCommon(m_tables[table].targets, source.targets); });
-  if (choice.ofTargets.empty()) choice.nearest = {nearestOf(named, source)};
+  TableNumbers& ofTargets = choice.ofTargets;
+  for (const std::uint32_t target : source.targets) {
+    const auto found = named.byTarget.find(target);
+    if (found != named.byTarget.end()) ofTargets.insert(ofTargets.end(), found->second.begin(), found->second.end());
+  }
+  std::sort(ofTargets.begin(), ofTargets.end());
+  ofTargets.erase(std::unique(ofTargets.begin(), ofTargets.end()), ofTargets.end());
+  if (ofTargets.empty()) choice.nearest = {nearestOf(named, source)};
   return choice;
 }
 
-std::uint32_t CallTargets::nearestOf(const TableNumbers& named, const MemberFile& source) const {
-  const std::string_view directory = directoryOf(source.path);
-  const auto rank = [&](std::uint32_t table) {
-    return std::make_tuple(stepsBetween(directory, m_tables[table].table->directory.path()),
-                           !belongsToFirstTarget(table, source.package), table);
-  };
-  return *std::min_element(named.begin(), named.end(),
-                           [&rank](std::uint32_t a, std::uint32_t b) { return rank(a) < rank(b); });
+/// The fewest steps up and down the tree, then one of the first target of the source's package.
+std::uint32_t CallTargets::nearestOf(Named& named, const MemberFile& source) const {
+  const std::uint32_t target = m_packages[source.package].firstTarget;
+  Highest& ofTarget = named.highestByTarget[target];
+  const auto tables = named.byTarget.find(target);
+  if (ofTarget.empty() && tables != named.byTarget.end()) find(ofTarget, tables->second);
+  if (named.highest.empty()) find(named.highest, named.all);
+  return std::min(nearestIn(ofTarget, source, 0), nearestIn(named.highest, source, 1)).table;
 }
 
-bool CallTargets::belongsToFirstTarget(std::uint32_t table, std::uint32_t package) const {
-  const std::vector<std::uint32_t>& targets = m_tables[table].targets;
-  return std::binary_search(targets.begin(), targets.end(), m_packages[package].firstTarget);
-}
-
-std::size_t stepsBetween(std::string_view from, std::string_view to) {
-  std::size_t common = 0;
-  const std::size_t most = std::min(from.size(), to.size());
-  for (std::size_t at = 0; at <= most; ++at) {
-    const bool endsPart = (at == from.size() || from[at] == '/') && (at == to.size() || to[at] == '/');
-    if (endsPart) common = at;
-    if (at == most || from[at] != to[at]) break;
+void CallTargets::find(Highest& highest, const TableNumbers& tables) const {
+  for (const std::uint32_t table : tables) {
+    const std::string_view directory = m_tables[table].table->directory.path();
+    const std::pair place(depthOf(directory), table);
+    eachAbove(directory, [&](std::string_view above, std::size_t) {
+      const auto [known, isNew] = highest.try_emplace(above, place);
+      if (!isNew) known->second = std::min(known->second, place);
+    });
   }
-  return depthOf(from.substr(common)) + depthOf(to.substr(common));
 }
 
 }  // namespace glossmill

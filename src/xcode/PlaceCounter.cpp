@@ -1,7 +1,5 @@
 #include "xcode/PlaceCounter.h"
 
-#include <bit>
-
 #include "text/ByteBlock.h"
 #include "text/Utf16.h"
 #include "xcode/SourceText.h"
@@ -21,7 +19,8 @@ std::size_t countLineEnds(std::string_view text, std::size_t from, std::size_t t
   for (; from + ByteBlock::kSize <= to && from + ByteBlock::kSize < text.size(); from += ByteBlock::kSize) {
     const ByteBlock block(text.data() + from);
     const ByteBlock::Mask returns = block.equal('\r') & ~ByteBlock(text.data() + from + 1).equal('\n');
-    count += static_cast<std::size_t>(std::popcount(block.equal('\n') | returns));
+    // Most blocks hold one at most.
+    for (ByteBlock::Mask ends = block.equal('\n') | returns; ends != 0; ends &= ends - 1) ++count;
   }
   for (; from < to; ++from) count += endsLine(text, from) ? 1 : 0;
   return count;

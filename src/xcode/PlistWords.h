@@ -21,6 +21,11 @@ inline constexpr std::size_t kNotClosed = std::string_view::npos;
 /// block comment does not end.
 std::size_t endOfPlistComment(std::string_view text, std::size_t at);
 
+/// False for a byte that neither white space nor a comment begins with.
+inline bool mayBeInPlistGap(char byte) {
+  return byte == ' ' || (byte >= '\t' && byte <= '\r') || byte == '/' || byte == '\xE2';
+}
+
 /// Behind the white space and comments at `at`, or where a comment begins that is not closed.
 std::size_t skipPlistGap(std::string_view text, std::size_t at);
 

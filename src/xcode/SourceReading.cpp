@@ -1,15 +1,35 @@
 #include "xcode/SourceReading.h"
 
+#include <optional>
 #include <unordered_map>
 #include <utility>
 
-#include "platform/ReadBytes.h"
 #include "text/DecodedFile.h"
 #include "xcode/AppleRoutines.h"
+#include "xcode/JobsInOrder.h"
 
 namespace glossmill {
 
 namespace {
+
+/// What is known of a header from the first reading.
+struct ReadHeader {
+  Result<std::string> text;
+  std::vector<MacroDefinition> macros;
+  std::size_t bytesRead = 0;
+};
+
+/// What one source holds.
+struct ReadSource {
+  std::optional<Error> error;
+  SourceCalls calls;
+  WholeTexts texts;
+  std::size_t bytesRead = 0;
+};
+
+std::optional<FileEncoding> encodingOf(const MemberFile& file) {
+  return file.encoding ? encodingOfNumber(*file.encoding) : std::nullopt;
+}
 
 class SourcesReader {
  public:
@@ -19,46 +39,86 @@ class SourcesReader {
 
   ReadSources read(const std::vector<Routine>& own) {
     readHeaders();
+    if (m_input.canceled.isSet()) return std::move(m_found);
     const RoutineTable inC = routinesInC(own, m_macros);
     const RoutineTable inSwift = routinesInSwift(own);
+    JobsInOrder<ReadSource> jobs(m_sources.size(), [&](std::size_t number) {
+      return isSwift(m_sources[number].path) ? readSource(number, inSwift, readCallsInSwift)
+                                             : readSource(number, inC, readCallsInC);
+    });
     for (std::uint32_t number = 0; number < m_sources.size(); ++number) {
-      if (m_input.canceled.isSet()) return std::move(m_found);
-      readSource(number, isSwift(m_sources[number].path) ? inSwift : inC);
+      if (m_input.canceled.isSet()) break;
+      const FileUrl url(m_sources[number].path);
+      m_input.listener.happened(SourceBegins{url});
+      takeSource(number, url, jobs.next());
     }
     return std::move(m_found);
   }
 
  private:
+  using ReadCalls = SourceCalls (*)(std::string_view text, const RoutineTable& routines);
+
   void readHeaders() {
+    std::vector<std::uint32_t> headers;
     for (std::uint32_t number = 0; number < m_sources.size(); ++number) {
+      if (isHeader(m_sources[number].path)) headers.push_back(number);
+    }
+    JobsInOrder<ReadHeader> jobs(headers.size(), [&](std::size_t number) { return readHeader(headers[number]); });
+    for (const std::uint32_t number : headers) {
       if (m_input.canceled.isSet()) return;
-      if (!isHeader(m_sources[number].path)) continue;
-      const auto text = m_headers.emplace(number, readMemberText(m_sources[number], m_input.files)).first;
-      if (!text->second) continue;
-      for (MacroDefinition& macro : readMacros(text->second.value())) m_macros.push_back(std::move(macro));
+      ReadHeader header = jobs.next();
+      for (MacroDefinition& macro : header.macros) m_macros.push_back(std::move(macro));
+      m_headers.emplace(number, std::move(header.text));
     }
   }
 
-  void readSource(std::uint32_t number, const RoutineTable& routines) {
-    const MemberFile& source = m_sources[number];
-    const FileUrl url(source.path);
-    m_input.listener.happened(SourceBegins{url});
-    const auto header = m_headers.find(number);
-    const Result<std::string> text =
-        header == m_headers.end() ? readMemberText(source, m_input.files) : std::move(header->second);
-    if (!text) {
-      m_input.listener.happened(SourceUnread{url, text.error()});
-      m_report({url, 0, 0, "source-unread", text.error().sentence});
+  // ---- Jobs: two threads do them at a time ----
+
+  ReadHeader readHeader(std::uint32_t number) const {
+    ReadHeader header{readMemberText(m_sources[number], m_input.files), {}, 0};
+    if (!header.text) return header;
+    header.bytesRead = header.text.value().size();
+    header.macros = readMacros(header.text.value());
+    return header;
+  }
+
+  ReadSource readSource(std::size_t number, const RoutineTable& routines, ReadCalls readCalls) const {
+    static thread_local FileBuffer buffer;
+    const auto header = m_headers.find(static_cast<std::uint32_t>(number));
+    std::string decoded;
+    const Result<std::string_view> text = header == m_headers.end()
+                                              ? readMemberText(m_sources[number], m_input.files, buffer, decoded)
+                                              : viewOf(header->second);
+    ReadSource source;
+    if (text) {
+      source.calls = readCalls(text.value(), routines);
+      source.texts.addSource(text.value());
+      source.bytesRead = text.value().size();
+    } else {
+      source.error = text.error();
+    }
+    return source;
+  }
+
+  static Result<std::string_view> viewOf(const Result<std::string>& text) {
+    if (!text) return text.error();
+    return std::string_view(text.value());
+  }
+
+  // ---- In the order of the sources ----
+
+  void takeSource(std::uint32_t number, const FileUrl& url, const ReadSource& source) {
+    if (source.error) {
+      m_input.listener.happened(SourceUnread{url, *source.error});
+      m_report({url, 0, 0, "source-unread", source.error->sentence});
       return;
     }
-    const SourceCalls calls =
-        isSwift(source.path) ? readCallsInSwift(text.value(), routines) : readCallsInC(text.value(), routines);
-    m_found.calls.add(calls, number);
-    for (const SourceProblem& problem : calls.problems) {
+    m_found.calls.add(source.calls, number);
+    for (const SourceProblem& problem : source.calls.problems) {
       m_report({url, static_cast<std::uint32_t>(problem.place.line), static_cast<std::uint32_t>(problem.place.column),
                 nameOf(problem.kind), problem.text});
     }
-    m_found.texts.addSource(text.value());
+    m_found.texts.add(source.texts);
   }
 
   const std::vector<MemberFile>& m_sources;
@@ -77,12 +137,21 @@ ReadSources readSources(const std::vector<MemberFile>& sources, const std::vecto
 }
 
 Result<std::string> readMemberText(const MemberFile& file, FileReading& files) {
-  Result<std::string> bytes = readBytes(files, FileUrl(file.path));
+  static thread_local FileBuffer buffer;
+  const Result<std::string_view> bytes = buffer.read(files, FileUrl(file.path));
   if (!bytes) return bytes.error();
-  const std::optional<FileEncoding> otherwise = file.encoding ? encodingOfNumber(*file.encoding) : std::nullopt;
-  Result<DecodedFile> decoded = textOfFile(std::move(bytes.value()), otherwise);
+  Result<DecodedFile> decoded = textOfFile(bytes.value(), encodingOf(file));
   if (!decoded) return decoded.error();
   return std::move(decoded.value().text);
+}
+
+Result<std::string_view> readMemberText(const MemberFile& file, FileReading& files, FileBuffer& buffer,
+                                        std::string& decoded) {
+  const Result<std::string_view> bytes = buffer.read(files, FileUrl(file.path));
+  if (!bytes) return bytes.error();
+  const Result<FileTextView> text = viewOfFile(bytes.value(), encodingOf(file), decoded);
+  if (!text) return text.error();
+  return text.value().text;
 }
 
 }  // namespace glossmill

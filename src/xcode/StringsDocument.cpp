@@ -45,8 +45,8 @@ TextPlace placeOfUndecodable(std::string_view bytes) {
 
 }  // namespace
 
-StringsDocument::StringsDocument(std::string bytes, std::optional<FileEncoding> otherwise) {
-  decode(std::move(bytes), otherwise);
+StringsDocument::StringsDocument(std::string_view bytes, std::optional<FileEncoding> otherwise) {
+  decode(bytes, otherwise);
   m_lineEnd = firstLineEnd(m_file.text);
   if (!m_error) readEntries();
 }
@@ -56,7 +56,7 @@ StringsDocument StringsDocument::emptyLike(const StringsDocument& model) {
 }
 
 StringsDocument StringsDocument::emptyWith(std::string_view lineEnd) {
-  StringsDocument document{std::string()};
+  StringsDocument document{std::string_view()};
   document.m_lineEnd = lineEnd;
   return document;
 }
@@ -69,7 +69,7 @@ StringsDocument StringsDocument::ofText(std::string text, const StringsDocument&
   return document;
 }
 
-void StringsDocument::decode(std::string bytes, std::optional<FileEncoding> otherwise) {
+void StringsDocument::decode(std::string_view bytes, std::optional<FileEncoding> otherwise) {
   if (bytes.starts_with("bplist")) {
     m_error = {{1, 1}, "The file is a binary property list."};
     return;
@@ -78,13 +78,12 @@ void StringsDocument::decode(std::string bytes, std::optional<FileEncoding> othe
     m_error = {{1, 1}, "The file is too long."};
     return;
   }
-  const std::optional<Result<DecodedFile>> declared = textOfDeclaredXml(bytes);
-  const TextPlace place = declared || isValidUtf8(bytes) ? TextPlace{1, 1} : placeOfUndecodable(bytes);
-  Result<DecodedFile> file = declared ? *declared : textOfFile(std::move(bytes), otherwise);
+  std::optional<Result<DecodedFile>> declared = textOfDeclaredXml(bytes);
+  Result<DecodedFile> file = declared ? *std::move(declared) : textOfFile(bytes, otherwise);
   if (file) {
     m_file = std::move(file.value());
   } else {
-    m_error = {place, file.error().sentence};
+    m_error = {declared ? TextPlace{1, 1} : placeOfUndecodable(bytes), file.error().sentence};
   }
 }
 

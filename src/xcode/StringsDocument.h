@@ -24,7 +24,7 @@ class StringsDocument {
   };
 
   /// `otherwise` is what the project says of the encoding. Empty bytes are a file without entries.
-  explicit StringsDocument(std::string bytes, std::optional<FileEncoding> otherwise = std::nullopt);
+  explicit StringsDocument(std::string_view bytes, std::optional<FileEncoding> otherwise = std::nullopt);
   /// A file without entries that takes encoding and line ends from another.
   static StringsDocument emptyLike(const StringsDocument& model);
   /// A file without entries in UTF-8, whose lines are to end in this way.
@@ -53,7 +53,7 @@ class StringsDocument {
  private:
   StringsDocument() = default;
 
-  void decode(std::string bytes, std::optional<FileEncoding> otherwise);
+  void decode(std::string_view bytes, std::optional<FileEncoding> otherwise);
   void readEntries();
   template <typename Reader>
   void readWith(Reader reader);

@@ -28,9 +28,12 @@ bool StringsReader::next(StringsEntry& entry) {
   return takeText(entry.key, "A key is missing here.") && skipGap() && takeRest(entry);
 }
 
+/// Nearly every gap is a blank or nothing.
 bool StringsReader::skipGap() {
+  while (isAt(' ')) ++m_at;
+  if (m_at == m_text.size() || !mayBeInPlistGap(m_text[m_at])) return true;
   m_at = skipPlistGap(m_text, m_at);
-  if (endOfPlistComment(m_text, m_at) != kNotClosed) return true;
+  if (!isAt('/') || endOfPlistComment(m_text, m_at) != kNotClosed) return true;
   return fail(m_at, "A comment is not closed.");
 }
 

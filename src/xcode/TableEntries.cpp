@@ -22,15 +22,6 @@ std::string_view withoutSpace(std::string_view text) {
   return text;
 }
 
-/// The development language's file comes first, so that rows have its order.
-std::vector<std::size_t> readingOrder(const StringsTable& table) {
-  std::vector<std::size_t> order;
-  for (std::size_t file = 0; file < table.files.size(); ++file) order.push_back(file);
-  std::stable_partition(order.begin(), order.end(),
-                        [&table](std::size_t file) { return table.files[file].language == table.development; });
-  return order;
-}
-
 std::string lineList(const std::vector<std::size_t>& lines) {
   std::string list;
   for (std::size_t at = 0; at < lines.size(); ++at) {
@@ -43,8 +34,8 @@ std::string lineList(const std::vector<std::size_t>& lines) {
 class TableReader {
  public:
   TableReader(TableList::Table& table, TextArena& arena, const ScanInput& input,
-              const std::function<void(Problem)>& report)
-      : m_table(table), m_arena(arena), m_input(input), m_report(report) {}
+              const std::function<ReadStringsFile()>& next, const std::function<void(Problem)>& report)
+      : m_table(table), m_arena(arena), m_input(input), m_next(next), m_report(report) {}
 
   TableEntries read() {
     m_entries.columns.resize(m_table.files.size());
@@ -58,18 +49,17 @@ class TableReader {
   void readFile(std::size_t number) {
     StringsTable::File& file = m_table.table->files[number];
     m_input.listener.happened(StringsFileBegins{file.file});
-    Result<std::string> bytes = readBytes(m_input.files, file.file);
-    if (!bytes) {
+    const ReadStringsFile read = m_next();
+    if (read.unread) {
       file.hasMistake = true;
-      m_input.listener.happened(StringsFileUnread{file.file, bytes.error()});
-      return reportFile(file, {0, 0}, "strings-unread", bytes.error().sentence);
+      m_input.listener.happened(StringsFileUnread{file.file, *read.unread});
+      return reportFile(file, {0, 0}, "strings-unread", read.unread->sentence);
     }
-    if (bytes.value().starts_with(kBinaryList)) {
+    if (read.isBinary) {
       file.hasMistake = true;
       return reportFile(file, {0, 0}, "not-read", "A binary property list is not read");
     }
-    const StringsDocument document(std::move(bytes.value()),
-                                   file.encoding ? encodingOfNumber(*file.encoding) : std::nullopt);
+    const StringsDocument& document = *read.document;
     takeEntries(number, document);
     m_input.listener.happened(StringsFileRead{file.file, document.entries().size()});
     if (!document.error()) return;
@@ -134,6 +124,7 @@ class TableReader {
   TableList::Table& m_table;
   TextArena& m_arena;
   const ScanInput& m_input;
+  const std::function<ReadStringsFile()>& m_next;
   const std::function<void(Problem)>& m_report;
   TableEntries m_entries;
   KeyIndex::Number m_expected = 0;  ///< the key that stood next in an earlier file
@@ -141,12 +132,36 @@ class TableReader {
 
 }  // namespace
 
-TableEntries readTable(TableList::Table& table, TextArena& arena, const ScanInput& input,
-                       const std::function<void(Problem)>& report) {
-  return TableReader(table, arena, input, report).read();
+ReadStringsFile readStringsFile(const StringsTable::File& file, FileReading& files) {
+  static thread_local FileBuffer buffer;
+  const Result<std::string_view> bytes = buffer.read(files, file.file);
+  ReadStringsFile read;
+  if (!bytes) {
+    read.unread = bytes.error();
+    return read;
+  }
+  read.bytesRead = bytes.value().size();
+  read.isBinary = bytes.value().starts_with(kBinaryList);
+  if (read.isBinary) return read;
+  read.document.emplace(bytes.value(), file.encoding ? encodingOfNumber(*file.encoding) : std::nullopt);
+  return read;
+}
+
+std::vector<std::size_t> readingOrder(const StringsTable& table) {
+  std::vector<std::size_t> order;
+  for (std::size_t file = 0; file < table.files.size(); ++file) order.push_back(file);
+  std::stable_partition(order.begin(), order.end(),
+                        [&table](std::size_t file) { return table.files[file].language == table.development; });
+  return order;
+}
+
+TableEntries takeTable(TableList::Table& table, TextArena& arena, const ScanInput& input,
+                       const std::function<ReadStringsFile()>& next, const std::function<void(Problem)>& report) {
+  return TableReader(table, arena, input, next, report).read();
 }
 
 std::string_view commentInGap(std::string_view gap, bool followsEntry) {
+  if (gap.find('/') == std::string_view::npos) return {};
   std::string_view last;
   bool isOnEntryLine = followsEntry;
   for (std::size_t at = 0; at + 1 < gap.size(); ++at) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "model/Problem.h"
 #include "model/ProjectRules.h"
 #include "model/TextArena.h"
+#include "xcode/StringsDocument.h"
 #include "xcode/TableList.h"
 
 namespace glossmill {
@@ -26,9 +28,24 @@ struct TableEntries {
   }
 };
 
-/// Reads the files of a table. Values go to `arena`; a file with a mistake is read up to it, and marked in the table.
-TableEntries readTable(TableList::Table& table, TextArena& arena, const ScanInput& input,
-                       const std::function<void(Problem)>& report);
+/// A strings file as it was read; without a document when it could not be.
+struct ReadStringsFile {
+  std::optional<Error> unread;
+  bool isBinary = false;
+  std::optional<StringsDocument> document;
+  std::size_t bytesRead = 0;
+};
+
+/// Any thread.
+ReadStringsFile readStringsFile(const StringsTable::File& file, FileReading& files);
+
+/// The files of a table by their numbers. That of the development language comes first, so that rows have its order.
+std::vector<std::size_t> readingOrder(const StringsTable& table);
+
+/// Puts the files of a table together; `next` gives them in their reading order. Values go to `arena`; a file with a
+/// mistake counts up to it, and is marked in the table.
+TableEntries takeTable(TableList::Table& table, TextArena& arena, const ScanInput& input,
+                       const std::function<ReadStringsFile()>& next, const std::function<void(Problem)>& report);
 
 /// The last comment of a gap between two entries that belongs to what follows: not one that begins on the line of the
 /// entry before. Without its marks and the white space inside; "" for none.

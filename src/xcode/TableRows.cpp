@@ -53,19 +53,19 @@ void TableRows::addComment(Number key, std::string_view comment) {
   if (m_comments.insert(hash).second) comments.emplace_back(comment);
 }
 
-bool TableRows::isUnused(Number key, const WholeTexts& texts) const {
+bool TableRows::isUnused(Number key, WholeTexts& texts) const {
   const bool isCalled = m_records[key] && m_records[key]->useCount() > 0;
   return m_table->hasCalls && !isCalled && !texts.hold(m_entries.keys.key(key));
 }
 
-bool TableRows::hasUnused(const WholeTexts& texts) const {
+bool TableRows::hasUnused(WholeTexts& texts) const {
   for (Number key = 0; key < m_records.size(); ++key) {
     if (isUnused(key, texts)) return true;
   }
   return false;
 }
 
-void TableRows::finish(const WholeTexts& texts, StringArray& records) {
+void TableRows::finish(WholeTexts& texts, StringArray& records) {
   for (Number key = 0; key < m_entries.keys.size(); ++key) record(key);
   for (const Number key : m_order) {
     complete(key, texts);
@@ -73,7 +73,7 @@ void TableRows::finish(const WholeTexts& texts, StringArray& records) {
   }
 }
 
-void TableRows::complete(Number key, const WholeTexts& texts) {
+void TableRows::complete(Number key, WholeTexts& texts) {
   LocalizeString& record = *m_records[key];
   const bool isCalled = record.useCount() > 0;
   if (!isCalled && key < m_entries.comments.size() && m_entries.comments[key]) {

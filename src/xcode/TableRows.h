@@ -21,26 +21,27 @@ class TableRows {
   /// `arena` holds the texts of the entries, and keeps those of the rows.
   TableRows(std::shared_ptr<StringsTable> table, TableEntries entries, std::shared_ptr<TextArena> arena);
 
-  bool holdsKey(std::string_view key) const { return m_entries.keys.find(key).has_value(); }
+  /// Those of the entries and of the calls so far.
+  const KeyIndex& keys() const { return m_entries.keys; }
   /// Calls come source by source.
   void addCall(std::string_view key, const CallList::Call& call, const FileUrl& source);
 
   /// Whether a row would be unused if nothing but these texts held keys.
-  bool hasUnused(const WholeTexts& texts) const;
+  bool hasUnused(WholeTexts& texts) const;
 
   /// Adds the rows to `records`; nothing can be asked afterwards. Those that no call names are unused unless `texts`
   /// hold their keys.
-  void finish(const WholeTexts& texts, StringArray& records);
+  void finish(WholeTexts& texts, StringArray& records);
 
  private:
   using Number = KeyIndex::Number;
 
   LocalizeString& record(Number key);
   void addComment(Number key, std::string_view comment);
-  bool isUnused(Number key, const WholeTexts& texts) const;
+  bool isUnused(Number key, WholeTexts& texts) const;
   StoredText developmentText(Number key) const;
   StoredText sourceText(Number key) const;
-  void complete(Number key, const WholeTexts& texts);
+  void complete(Number key, WholeTexts& texts);
 
   std::shared_ptr<StringsTable> m_table;
   TableEntries m_entries;

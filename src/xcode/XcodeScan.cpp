@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "xcode/CallTargets.h"
+#include "xcode/JobsInOrder.h"
+#include "xcode/KeyHolders.h"
 #include "xcode/ProjectPaths.h"
 #include "xcode/SourceReading.h"
 #include "xcode/TableRows.h"
@@ -102,25 +104,47 @@ class StringsPhase {
     const auto reporter = [this](Problem problem) { report(std::move(problem)); };
     m_tables = collectTables(m_state.members.strings, {m_state.packages, m_state.folders, m_state.excluded,
                                                        m_input.options.xcode.sourceLanguage});
+    const std::vector<StringsTable::File*> files = filesInOrder();
+    JobsInOrder<ReadStringsFile> jobs(
+        files.size(), [&](std::size_t number) { return readStringsFile(*files[number], m_input.files); },
+        [&](std::size_t first) {
+          for (std::size_t number = first; number < files.size(); ++number) {
+            m_input.listener.happened(StringsFileExpected{files[number]->file});
+          }
+        });
     for (TableList::Table& table : m_tables.tables) {
       if (m_input.canceled.isSet()) return;
-      TableEntries entries = readTable(table, m_result.stringList.arena(), m_input, reporter);
+      TableEntries entries = takeTable(
+          table, m_result.stringList.arena(), m_input, [&] { return jobs.next(); }, reporter);
       m_rows.emplace_back(table.table, std::move(entries), m_result.stringList.sharedArena());
     }
+  }
+
+  std::vector<StringsTable::File*> filesInOrder() const {
+    std::vector<StringsTable::File*> files;
+    for (const TableList::Table& table : m_tables.tables) {
+      for (const std::size_t file : readingOrder(*table.table)) files.push_back(&table.table->files[file]);
+    }
+    return files;
   }
 
   void takeCalls() {
     CallTargets targets(m_tables.tables, m_state.packages);
     const CallList& list = m_state.calls;
+    KeyHolders holders(list, m_rows);
     for (const CallList::Call& call : list.calls()) {
       if (m_input.canceled.isSet()) return;
       const std::string_view key = list.keys().key(call.key);
       const std::string_view name = list.tables().key(call.table);
-      const CallTargets::TableNumbers numbers =
-          targets.tablesFor(name, m_state.members.sources[call.source],
-                            [this, key](std::uint32_t table) { return m_rows[table].holdsKey(key); });
+      const CallTargets::TableNumbers numbers = targets.tablesFor(
+          name, m_state.members.sources[call.source], [&](const CallTargets::TableNumbers& named) -> const auto& {
+            return holders.of(call, named);
+          });
       if (numbers.empty()) addCall(fileless(call.table, name), key, call);
-      for (const std::uint32_t number : numbers) addCall(number, key, call);
+      for (const std::uint32_t number : numbers) {
+        addCall(number, key, call);
+        holders.add(call, number);
+      }
     }
   }
 
