@@ -3,7 +3,9 @@
 #include "edit/BaseLanguage.h"
 #include "exchange/ExportText.h"
 #include "exchange/ImportPlan.h"
+#include "exchange/ImportText.h"
 #include "platform/ReadText.h"
+#include "project/ExportUnits.h"
 #include "timing/Findings.h"
 
 namespace glossmill::bench {
@@ -63,22 +65,25 @@ void JobTrials::checkEntries(const Trial& trial) const {
 }
 
 void JobTrials::exportAll() {
+  UnitMaker maker;
+  maker.languages = {m_full->code()};
+  maker.isBrief = true;
   std::string text = kExportTextStart;
   std::int64_t counter = 0;
   for (const auto& record : m_project.stringList()) {
-    appendExportBlock(text, *record, ++counter, m_full->code(), ExportScope::AllStrings);
+    if (const auto unit = maker.unitOf(*record, ++counter)) appendExportBlock(text, *unit);
   }
   if (!m_files.writeText(m_exported, text)) giveUp("cannot write " + m_exported.path());
 }
 
 std::size_t JobTrials::importAll() {
-  const Result<std::string> text = readText(m_files, m_exported);
+  Result<std::string> text = readText(m_files, m_exported);
   if (!text) giveUp("cannot read " + m_exported.path());
-  const ImportPlan plan(importTable(text.value()), m_added->code());
+  Result<ExchangeDocument> document = readExportText(std::move(text.value()));
+  if (!document) giveUp("cannot take in " + m_exported.path());
+  const ImportPlan plan(std::move(document.value()), m_project.stringList(), {{m_added->code()}});
   m_project.edits().beginEdits();
-  for (const auto& record : m_project.stringList()) {
-    if (const auto edit = plan.editFor(record)) m_project.applyEdit(EditKind::Import, *edit);
-  }
+  for (const Edit& edit : plan.edits()) m_project.applyEdit(EditKind::Import, edit);
   m_project.edits().endEdits();
   return entries();
 }

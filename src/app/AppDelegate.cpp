@@ -103,6 +103,7 @@ void AppDelegate::openProjectWindow() {
   if (!m_projectWindowController) {
     m_projectWindowController = std::make_unique<ProjectWindowController>(m_host, *this);
     m_projectWindowController->setSettingsReader(m_settingsReader);
+    m_projectWindowController->addExchangeFormats(m_exchangeFormats);
   }
   m_projectWindowController->showWindow();
 }

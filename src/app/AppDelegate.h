@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +54,8 @@ class AppDelegate : public ApplicationServices {
   void setSettingsReader(SettingsReader reader) { m_settingsReader = std::move(reader); }
   /// What makes the choice of rules outlive the run.
   void setRulesKeeper(RulesKeeper keeper) { m_rulesKeeper = std::move(keeper); }
+  /// Formats beside those of the core; the same. They live as long as the program.
+  void setExchangeFormats(std::span<const ExchangeFormat> formats) { m_exchangeFormats = formats; }
   /// Called with each message of the log, for whoever passes messages on. Set it before the first one. Main thread.
   std::function<void(const Message&)> onLogText;
 
@@ -77,6 +80,7 @@ class AppDelegate : public ApplicationServices {
   ProjectOptions m_projectOptions;
   SettingsReader m_settingsReader;
   RulesKeeper m_rulesKeeper;
+  std::span<const ExchangeFormat> m_exchangeFormats;
   NewsQueue m_news;
   std::unique_ptr<ProjectWindowController> m_projectWindowController;
   std::unique_ptr<LogWindowController> m_logWindowController;

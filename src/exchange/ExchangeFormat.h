@@ -1,34 +1,62 @@
 #pragma once
 
-#include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "exchange/ImportText.h"
-#include "model/ExportScope.h"
-#include "model/LocalizeString.h"
+#include "exchange/ExchangeUnit.h"
+#include "platform/FileUrl.h"
+#include "text/Result.h"
 
 namespace glossmill {
 
-/// A form in which one language goes to a translator and comes back.
-struct ExchangeFormat {
-  std::string_view name;
-  std::span<const std::string_view> fileTypes;  ///< extensions of files to read, as they are offered
-  /// What every text begins with.
-  std::string_view start;
-  /// Appends the `number`th record of the list to a text, or nothing when `scope` leaves it out.
-  void (*write)(std::string& text, const LocalizeString& record, std::int64_t number, LanguageCode language,
-                ExportScope scope);
-  /// Takes the translations out of a whole text.
-  ImportTable (*read)(std::string_view text);
+/// How a file is to be written.
+struct ExchangeWish {
+  bool hasMark = false;  ///< begins with a byte-order mark, where the format is one for spreadsheets
+  std::string programVersion;
 };
 
-/// All formats; the first is the one that is taken without a choice.
+/// One file that was made.
+struct ExchangeFile {
+  std::string path;  ///< below the target, which is a directory then; empty: the target itself
+  std::string text;
+};
+
+/// A string that a format cannot carry, or not as it is.
+struct LeftOutUnit {
+  std::string table;
+  std::string key;
+  std::string sentence;
+};
+
+struct WrittenExchange {
+  std::vector<ExchangeFile> files;
+  std::vector<LeftOutUnit> leftOut;
+};
+
+/// A form in which languages go to a translator and come back. Functions without state, for any thread.
+struct ExchangeFormat {
+  std::string_view name;                        ///< on the command line
+  std::string_view title;                       ///< in panels: a name, the same in every language
+  std::span<const std::string_view> fileTypes;  ///< extensions, as they are offered; the first is the usual one
+  bool carriesSeveralLanguages = false;
+  bool isDirectory = false;  ///< it is written as a directory
+  WrittenExchange (*write)(const ExchangeDocument& document, const ExchangeWish& wish) = nullptr;
+  /// Takes a whole text. Parts that are wrong by themselves are among the rejected lines; a text that is not well
+  /// formed is an error that names the line.
+  Result<ExchangeDocument> (*read)(std::string text) = nullptr;
+};
+
+/// The formats of the core; the first is the program's own text, which is taken without a choice.
 std::span<const ExchangeFormat> exchangeFormats();
 
-/// The one for projects with tables.
+/// The own text of projects with tables.
 const ExchangeFormat& tableFormat();
+
+/// The format whose files end like this one; null where none does.
+const ExchangeFormat* formatOfFile(std::span<const ExchangeFormat> formats, const FileUrl& file);
+const ExchangeFormat* formatNamed(std::span<const ExchangeFormat> formats, std::string_view name);
 
 }  // namespace glossmill

@@ -2,16 +2,13 @@
 
 namespace glossmill {
 
-void appendExportBlock(std::string& text, const LocalizeString& record, std::int64_t number, LanguageCode language,
-                       ExportScope scope) {
-  const std::optional<std::string_view> translation = record.languagesDict().find(language);
-  if (translation && scope == ExportScope::Untranslated) return;
-  text += "--- " + std::to_string(number) + " ---\n/* ";
-  text += record.comment();
+void appendExportBlock(std::string& text, const ExchangeUnit& unit) {
+  text += "--- " + std::to_string(unit.number) + " ---\n/* ";
+  text += unit.comment;
   text += " */\n";
-  text += record.name();
+  text += unit.key;
   text += '\n';
-  text += translation.value_or(std::string_view());
+  if (const std::string* translation = unit.textIn(0)) text += *translation;
   text += "\n\n";
 }
 

@@ -32,4 +32,25 @@ ImportTable importTable(std::string_view text) {
   return table;
 }
 
+std::map<std::string, std::string> sortedTable(ImportTable table) {
+  std::map<std::string, std::string> sorted;
+  while (!table.empty()) {
+    auto entry = table.extract(table.begin());
+    sorted.emplace(std::move(entry.key()), std::move(entry.mapped()));
+  }
+  return sorted;
+}
+
+Result<ExchangeDocument> readExportText(std::string text) {
+  ExchangeDocument document;
+  document.languages = {""};
+  for (auto& [key, translation] : sortedTable(importTable(text))) {
+    ExchangeUnit unit;
+    unit.key = key;
+    unit.texts.push_back({0, std::move(translation)});
+    document.units.push_back(std::move(unit));
+  }
+  return document;
+}
+
 }  // namespace glossmill

@@ -62,19 +62,15 @@ std::string_view withoutReturn(std::string_view line) {
   return line;
 }
 
-bool isInScope(const LocalizeString& record, LanguageCode language, ExportScope scope) {
-  return scope == ExportScope::AllStrings || record.isMissing(language);
-}
-
 }  // namespace
 
-void appendTableBlock(std::string& text, const LocalizeString& record, std::int64_t number, LanguageCode language,
-                      ExportScope scope) {
-  if (!record.tableRow() || !isInScope(record, language, scope)) return;
-  text += "--- " + std::to_string(number) + " --- " + onOneLine(record.tableRow()->table->id) + "\n/* ";
-  text += onOneLine(record.comment()) + " */\n";
-  text += onOneLine(record.name()) + "\n";
-  text += onOneLine(record.languagesDict().find(language).value_or("")) + "\n\n";
+void appendTableBlock(std::string& text, const ExchangeUnit& unit) {
+  if (unit.table.empty()) return;
+  const std::string* translation = unit.textIn(0);
+  text += "--- " + std::to_string(unit.number) + " --- " + onOneLine(unit.table) + "\n/* ";
+  text += onOneLine(unit.comment) + " */\n";
+  text += onOneLine(unit.key) + "\n";
+  text += (translation ? onOneLine(*translation) : "") + "\n\n";
 }
 
 ImportTable tableTextImport(std::string_view text) {
@@ -101,6 +97,20 @@ ImportTable tableTextImport(std::string_view text) {
     }
   }
   return texts;
+}
+
+Result<ExchangeDocument> readTableText(std::string text) {
+  ExchangeDocument document;
+  document.languages = {""};
+  for (auto& [tableAndKey, translation] : sortedTable(tableTextImport(text))) {
+    ExchangeUnit unit;
+    const std::size_t end = tableAndKey.find('\n');
+    unit.table = tableAndKey.substr(0, end);
+    unit.key = tableAndKey.substr(end + 1);
+    unit.texts.push_back({0, std::move(translation)});
+    document.units.push_back(std::move(unit));
+  }
+  return document;
 }
 
 }  // namespace glossmill

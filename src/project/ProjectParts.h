@@ -7,7 +7,6 @@
 
 #include "dialogs/LanguageDialogDelegates.h"
 #include "edit/EditHistory.h"
-#include "exchange/ImportReport.h"
 #include "model/ArrayController.h"
 #include "model/EditDoor.h"
 #include "model/EditedTexts.h"
@@ -21,6 +20,7 @@
 #include "model/StringsTable.h"
 #include "model/TranslationCounts.h"
 #include "platform/Host.h"
+#include "project/ExchangeParts.h"
 #include "project/LongJob.h"
 #include "project/ProjectMoment.h"
 #include "project/ProjectOpening.h"
@@ -94,7 +94,7 @@ class ProjectParts {
   ReadFiles m_readFiles;
   std::vector<UnreadPlace> m_unread;  ///< of the open project
   SaveReport m_lastSave;
-  ImportReport m_importReport;
+  ExchangeParts m_exchange;
   std::optional<BeforeReading> m_before;  ///< while it is read anew
   bool m_changed = false;
   bool m_opened = false;

@@ -5,20 +5,21 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "model/ProjectContext.h"
+#include "project/ImportChecks.h"
 #include "project/ProjectParts.h"
 #include "project/Recovery.h"
 
 namespace glossmill {
 
-class ImportPlan;
-struct ExchangeFormat;
 class ScanRun;
 struct Replacement;
+struct UnitMaker;
 
 /// Owns the open project for its whole life and offers its operations: the rules are in modules, this class asks the
 /// host, calls one module, adopts the result and tells the window. Main thread, but for the operations marked
@@ -212,20 +213,37 @@ class ProjectWindowController : public ProjectContext,
 
   // ---- Export: ProjectWindowControllerExport.cpp ----
 
+  /// Formats beside those of the core. Before anything is exported or imported.
+  void addExchangeFormats(std::span<const ExchangeFormat> formats);
+  const std::vector<ExchangeFormat>& exchangeFormatList() const { return m_exchange.formats; }
+  /// The one with this name, or by the file's extension without a name; the program's own text where there is none.
+  const ExchangeFormat& formatFor(std::string_view name, const FileUrl& file) const;
   void exportLanguageToFileAllStrings(std::shared_ptr<Language> language, const FileUrl& file, ExportScope scope);
+  void exportLanguages(const ExportRequest& request);
   /// Background.
-  void bgExportLanguage(const Language& language, const FileUrl& file, ExportScope scope);
+  void bgExportLanguage(const ExportRequest& request);
   /// Writes the text, when there is one, and closes the sheet.
-  void saveExportTextFile(const Language& language, const FileUrl& file, const std::optional<std::string>& text);
+  void saveExportTextFile(const Language& language, const FileUrl& file, const std::optional<WrittenExchange>& text);
+  /// What the last export did.
+  const ExportReport& exportReport() const { return m_exchange.exportReport; }
 
   // ---- Import: ProjectWindowControllerImport.cpp ----
 
   void importLanguageFromFile(std::shared_ptr<Language> language, const FileUrl& file);
+  void importFile(const ImportRequest& request);
+  /// Reads a file and says what an import would do, for a list to look at and to choose from. Changes nothing. Any
+  /// thread, while nobody edits.
+  Result<ImportPlan> planImport(const ImportRequest& request) const;
+  /// Applies what is chosen as one step.
+  void applyImport(const ImportPlan& plan);
+  /// Finds what is wrong with the texts of a plan.
+  ImportChecks importChecks() const;
   /// Background.
-  void bgImportLanguage(const Language& language, const FileUrl& file);
+  void bgImportLanguage(const ImportRequest& request);
   void endImport();
-  /// What the last import did.
-  const ImportReport& importReport() const { return m_importReport; }
+  /// What the last import did, and what it was made of.
+  const ImportReport& importReport() const { return m_exchange.importReport; }
+  const ImportPlan& importPlan() const { return m_exchange.importPlan; }
 
   // ---- Tables, under rules that have them: ProjectWindowControllerTables.cpp ----
 
@@ -290,7 +308,9 @@ class ProjectWindowController : public ProjectContext,
   std::string newTableFileText(const FileUrl& file, const std::string& language) const;
   AlertAnswer askToSave();
 
-  const ExchangeFormat& exchangeFormat() const;
+  const ExchangeFormat& ownFormat() const;
+  std::optional<ExchangeDocument> documentOf(const UnitMaker& maker);
+  Outcome writeExchange(const FileUrl& target, const WrittenExchange& written);
   void showChooser(std::shared_ptr<LanguageWindowController>& chooser, std::string_view name);
   void chooseExportFile(std::shared_ptr<Language> language, ExportScope scope);
   void chooseImportFile(std::shared_ptr<Language> language);
@@ -298,7 +318,8 @@ class ProjectWindowController : public ProjectContext,
   FileUrl newLanguageParent();
   bool createLanguageDirectory(const Language& language);
   bool applyImport(const ImportPlan& plan, ImportReport& report);
-  void endCanceledImport(const Language& language, const FileUrl& file);
+  void endCanceledImport(const ImportRequest& request);
+  void tellOfImport();
 };
 
 }  // namespace glossmill

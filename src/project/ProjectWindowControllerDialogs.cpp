@@ -67,7 +67,7 @@ void ProjectWindowController::chooseExportFile(std::shared_ptr<Language> languag
 void ProjectWindowController::chooseImportFile(std::shared_ptr<Language> language) {
   OpenPanelRequest request;
   request.title = localized("Select file");
-  for (const std::string_view type : exchangeFormat().fileTypes) request.fileTypes.emplace_back(type);
+  for (const std::string_view type : ownFormat().fileTypes) request.fileTypes.emplace_back(type);
   const std::optional<FileUrl> file = m_host.panels.runOpenPanel(request);
   if (file) importLanguageFromFile(language, *file);
 }

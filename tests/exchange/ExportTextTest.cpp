@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "exchange/ExportText.h"
+#include "support/ExportedBlock.h"
 #include "support/LanguageCodes.h"
 #include "support/StoredTranslation.h"
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "exchange/ImportKey.h"
-#include "exchange/TableText.h"
+#include "support/ExportedBlock.h"
 #include "support/LanguageCodes.h"
 #include "support/StoredTranslation.h"
 #include "support/TableRecord.h"

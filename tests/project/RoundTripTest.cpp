@@ -3,8 +3,8 @@
 #include <random>
 #include <set>
 
-#include "exchange/ExportText.h"
 #include "exchange/ImportText.h"
+#include "support/ExportedBlock.h"
 #include "support/LanguageCodes.h"
 #include "support/StoredTranslation.h"
 #include "support/TestProject.h"
