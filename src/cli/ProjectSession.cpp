@@ -4,6 +4,7 @@
 #include "cli/Interrupt.h"
 #include "cli/ScanNewsText.h"
 #include "cli/WritingReport.h"
+#include "formats/XmlFormats.h"
 #include "host/Paths.h"
 #include "safety/UnfinishedSave.h"
 
@@ -48,6 +49,7 @@ ProjectSession::ProjectSession(Console& console, const Options& options)
       m_files(m_host.files, ReportingFiles::modeFor(options.pretends())),
       m_delegate(keptDelegate(hostParts(), keptLog(options))) {
   catchInterrupt();
+  m_delegate->setExchangeFormats(xmlFormats());
   m_host.panels.answerAlert = [this](const AlertRequest& alert) { return answerAlert(alert); };
   passMessagesOn();
 }

@@ -5,6 +5,7 @@
 #include "app/RememberedRules.h"
 #include "desktop/host/QtText.h"
 #include "desktop/windows/HelpWindows.h"
+#include "formats/XmlFormats.h"
 #include "host/Paths.h"
 #include "settings/KeptRules.h"
 #include "settings/ReadingChoice.h"
@@ -29,6 +30,7 @@ DesktopProgram::DesktopProgram(OwnTexts texts)
   options.command = "window";
   options.version = fromQt(QApplication::applicationVersion());
   m_delegate.setProjectOptions(options);
+  m_delegate.setExchangeFormats(xmlFormats());
 }
 
 /// Jobs use the project, so they end before it goes.

@@ -1,0 +1,272 @@
+#include "formats/XmlCheck.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "formats/XmlEscapes.h"
+#include "text/ByteSearch.h"
+
+namespace glossmill {
+
+namespace {
+
+constexpr std::size_t kMostDepth = 100;
+constexpr std::size_t kMostAttributes = 100;
+constexpr std::size_t kMostElements = 10'000'000;
+constexpr std::string_view kWhite = " \t\r\n";
+
+bool isWhite(char byte) {
+  return kWhite.find(byte) != kWhite.npos;
+}
+
+bool startsName(char byte) {
+  const char letter = static_cast<char>(byte | 0x20);
+  return (letter >= 'a' && letter <= 'z') || byte == '_' || byte == ':' || (byte & 0x80) != 0;
+}
+
+bool isInName(char byte) {
+  return startsName(byte) || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.';
+}
+
+/// The first byte that XML lacks; the end of the text where there is none.
+std::size_t firstControl(std::string_view text) {
+  constexpr std::size_t kBlock = 4096;
+  const auto lacks = [](char byte) { return (byte & 0xE0) == 0 && xmlLacks(static_cast<unsigned char>(byte)); };
+  for (std::size_t at = 0; at < text.size(); at += kBlock) {
+    const std::string_view block = text.substr(at, kBlock);
+    unsigned found = 0;
+    for (const char byte : block) found |= static_cast<unsigned>(lacks(byte));
+    if (found == 0) continue;
+    return at + static_cast<std::size_t>(std::ranges::find_if(block, lacks) - block.begin());
+  }
+  const std::size_t noCharacter = std::min(text.find("\xEF\xBF\xBE"), text.find("\xEF\xBF\xBF"));
+  return std::min(noCharacter, text.size());
+}
+
+/// Whether a number such as "#10" or "#xA" names a character.
+bool isCharacterNumber(std::string_view number) {
+  const bool isHex = number.starts_with("#x");
+  number.remove_prefix(isHex ? 2 : 1);
+  if (number.empty() || number.size() > 10) return false;
+  const std::uint64_t base = isHex ? 16 : 10;
+  std::uint64_t value = 0;
+  for (const char byte : number) {
+    const char letter = static_cast<char>(byte | 0x20);
+    std::uint64_t digit = base;
+    if (byte >= '0' && byte <= '9') digit = static_cast<std::uint64_t>(byte - '0');
+    if (isHex && letter >= 'a' && letter <= 'f') digit = static_cast<std::uint64_t>(letter - 'a') + 10;
+    if (digit >= base) return false;
+    value = value * base + digit;
+  }
+  const bool isSurrogate = value >= 0xD800 && value <= 0xDFFF;
+  return value <= 0x10FFFF && !isSurrogate && !xmlLacks(static_cast<char32_t>(value));
+}
+
+class Checker {
+ public:
+  Checker(std::string_view text, const std::vector<std::string_view>& names) : m_text(text), m_names(names) {}
+
+  Result<ElementLines> check() {
+    const std::size_t control = firstControl(m_text);
+    if (control != m_text.size()) fail(control, "It holds a character that XML does not allow.");
+    while (!m_error && m_at < m_text.size()) {
+      takeText();
+      if (!m_error && m_at < m_text.size()) takeMarkup();
+    }
+    if (!m_error && !m_open.empty()) fail(m_text.size(), "An element is not closed.");
+    if (!m_error && m_elements == 0) fail(0, "It holds no element: this is no XML.");
+    if (m_error) return *m_error;
+    return std::move(m_lines);
+  }
+
+ private:
+  void takeText() {
+    const std::size_t end = findByte(m_text, '<', m_at);
+    const std::string_view piece = m_text.substr(m_at, end - m_at);
+    if (m_open.empty() && piece.find_first_not_of(kWhite) != piece.npos) {
+      return fail(m_at, "Text stands outside the element that holds all others.");
+    }
+    checkReferences(m_at, end);
+    m_at = end;
+  }
+
+  void takeMarkup() {
+    const std::string_view rest = m_text.substr(m_at);
+    if (rest.starts_with("<!--")) return skip(4, "-->", "A comment is not closed.");
+    if (rest.starts_with("<![CDATA[")) return m_open.empty() ? failHere() : skip(9, "]]>", "CDATA is not closed.");
+    if (rest.starts_with("<?")) return takeInstruction();
+    if (rest.starts_with("<!DOCTYPE")) return takeDocumentType();
+    if (rest.starts_with("</")) return takeEnd();
+    takeStart();
+  }
+
+  void skip(std::size_t begin, std::string_view end, std::string_view sentence) {
+    const std::size_t found = m_text.find(end, m_at + begin);
+    if (found == m_text.npos) return fail(m_at, sentence);
+    m_at = found + end.size();
+  }
+
+  void takeInstruction() {
+    const std::size_t begin = m_at;
+    skip(2, "?>", "An instruction is not closed.");
+    if (m_error || begin != 0) return;
+    const std::string_view declaration = m_text.substr(0, m_at);
+    const std::size_t name = declaration.find("encoding");
+    if (!declaration.starts_with("<?xml") || name == declaration.npos) return;
+    const std::size_t quote = declaration.find_first_of("\"'", name);
+    if (quote == declaration.npos) return failHere();
+    const std::string_view value = declaration.substr(quote + 1);
+    if (!isUnicode(value.substr(0, value.find(declaration[quote])))) {
+      fail(0, "It is not in UTF-8 or UTF-16, it says; save it in UTF-8.");
+    }
+  }
+
+  static bool isUnicode(std::string_view encoding) {
+    std::string name(encoding);
+    for (char& byte : name) byte = byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 'a' + 'A') : byte;
+    return name.starts_with("UTF-") || name == "US-ASCII" || name == "ASCII";
+  }
+
+  void takeDocumentType() {
+    const std::size_t end = m_text.find_first_of("[>", m_at);
+    if (end == m_text.npos || m_elements > 0) return failHere();
+    if (m_text[end] == '[') return fail(m_at, "It has entities of its own, which are not read.");
+    m_at = end + 1;
+  }
+
+  void takeEnd() {
+    const std::size_t end = findByte(m_text, '>', m_at);
+    if (end == m_text.size()) return failHere();
+    std::string_view name = m_text.substr(m_at + 2, end - m_at - 2);
+    while (!name.empty() && isWhite(name.back())) name.remove_suffix(1);
+    if (m_open.empty() || m_open.back() != name)
+      return fail(m_at, "A closing tag does not fit the one that it closes.");
+    m_open.pop_back();
+    m_at = end + 1;
+  }
+
+  void takeStart() {
+    const std::size_t begin = m_at++;
+    const std::string_view name = takeName();
+    if (name.empty()) return fail(begin, "“<” begins no tag.");
+    if (m_open.empty() && m_elements > 0) return fail(begin, "There is more than one element at the outside.");
+    if (++m_elements > kMostElements) return fail(begin, "It has too many elements.");
+    noteLine(name, begin);
+    m_attributes.clear();
+    while (takeAttribute()) continue;
+    if (m_error) return;
+    const bool isEmpty = m_at < m_text.size() && m_text[m_at] == '/';
+    if (isEmpty) ++m_at;
+    if (m_at == m_text.size() || m_text[m_at] != '>') return fail(begin, "A tag is not closed.");
+    ++m_at;
+    if (isEmpty) return;
+    m_open.push_back(name);
+    if (m_open.size() > kMostDepth) fail(begin, "Its elements lie too deep in one another.");
+  }
+
+  void noteLine(std::string_view name, std::size_t begin) {
+    if (std::ranges::find(m_names, localName(name)) == m_names.end()) return;
+    m_lines.add(begin + 1, lineOf(begin));
+  }
+
+  std::string_view takeName() {
+    const std::size_t begin = m_at;
+    if (m_at < m_text.size() && startsName(m_text[m_at])) {
+      while (m_at < m_text.size() && isInName(m_text[m_at])) ++m_at;
+    }
+    return m_text.substr(begin, m_at - begin);
+  }
+
+  bool skipWhite() {
+    const std::size_t begin = m_at;
+    while (m_at < m_text.size() && isWhite(m_text[m_at])) ++m_at;
+    return m_at > begin;
+  }
+
+  /// False at the end of the tag, and after a mistake.
+  bool takeAttribute() {
+    const bool isApart = skipWhite();
+    const std::size_t begin = m_at;
+    const std::string_view name = takeName();
+    if (name.empty()) return false;
+    if (!isApart || m_attributes.size() == kMostAttributes ||
+        std::ranges::find(m_attributes, name) != m_attributes.end()) {
+      fail(begin, "The attributes of a tag are not as they should be.");
+      return false;
+    }
+    m_attributes.push_back(name);
+    skipWhite();
+    const bool hasValue = m_at < m_text.size() && m_text[m_at++] == '=';
+    skipWhite();
+    if (!hasValue || m_at == m_text.size() || (m_text[m_at] != '"' && m_text[m_at] != '\'')) {
+      fail(begin, "An attribute has no value between quotes.");
+      return false;
+    }
+    const std::size_t end = findByte(m_text, m_text[m_at], m_at + 1);
+    if (end == m_text.size() || findByte(m_text.substr(0, end), '<', m_at + 1) != end) {
+      fail(begin, "The quotes of an attribute are not closed.");
+      return false;
+    }
+    checkReferences(m_at + 1, end);
+    m_at = end + 1;
+    return !m_error;
+  }
+
+  void checkReferences(std::size_t begin, std::size_t end) {
+    const std::string_view piece = m_text.substr(0, end);
+    for (std::size_t at = findByte(piece, '&', begin); at < end; at = findByte(piece, '&', at + 1)) {
+      const std::size_t close = piece.find(';', at);
+      const std::string_view name =
+          close == piece.npos ? std::string_view() : piece.substr(at + 1, std::min<std::size_t>(close - at - 1, 12));
+      const bool isKnown = name == "amp" || name == "lt" || name == "gt" || name == "quot" || name == "apos";
+      if (!isKnown && !(name.starts_with('#') && isCharacterNumber(name))) {
+        return fail(at, "“&” begins no character that XML knows.");
+      }
+    }
+  }
+
+  /// Places come in their order.
+  std::uint32_t lineOf(std::size_t at) {
+    const std::string_view passed = m_text.substr(m_counted, at - m_counted);
+    m_line += static_cast<std::uint32_t>(std::ranges::count(passed, '\n'));
+    m_counted = at;
+    return m_line;
+  }
+
+  void failHere() { fail(m_at, "It is not well-formed XML."); }
+
+  void fail(std::size_t at, std::string_view sentence) {
+    if (m_error) return;
+    const auto line = 1 + std::ranges::count(m_text.substr(0, at), '\n');
+    m_error = Error{"line " + std::to_string(line) + ": " + std::string(sentence)};
+  }
+
+  std::string_view m_text;
+  const std::vector<std::string_view>& m_names;
+  std::size_t m_at = 0;
+  std::size_t m_counted = 0;
+  std::uint32_t m_line = 1;
+  std::size_t m_elements = 0;
+  std::vector<std::string_view> m_open;
+  std::vector<std::string_view> m_attributes;  ///< of the tag
+  ElementLines m_lines;
+  std::optional<Error> m_error;
+};
+
+}  // namespace
+
+std::uint32_t ElementLines::at(std::size_t nameAt) const {
+  const auto found = std::ranges::lower_bound(m_lines, nameAt, {}, &Place::nameAt);
+  return found != m_lines.end() && found->nameAt == nameAt ? found->line : 0;
+}
+
+std::string_view localName(std::string_view name) {
+  const std::size_t colon = name.rfind(':');
+  return colon == name.npos ? name : name.substr(colon + 1);
+}
+
+Result<ElementLines> checkXml(std::string_view text, const std::vector<std::string_view>& names) {
+  return Checker(text, names).check();
+}
+
+}  // namespace glossmill
