@@ -1,5 +1,6 @@
 #include "formats/InlineText.h"
 
+#include <cstring>
 #include <string_view>
 
 #include "formats/XmlCheck.h"
@@ -111,7 +112,8 @@ InlineText inlineText2(const pugi::xml_node& element, const pugi::xml_node& unit
 }
 
 bool isNamed(const pugi::xml_node& node, const char* name) {
-  return node.type() == pugi::node_element && localName(node.name()) == name;
+  const char* const own = node.name();
+  return node.type() == pugi::node_element && (std::strcmp(own, name) == 0 || localName(own) == name);
 }
 
 pugi::xml_node childNamed(const pugi::xml_node& parent, const char* name) {

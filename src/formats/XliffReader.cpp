@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "exchange/TablePath.h"
 #include "formats/InlineText.h"
 #include "formats/XmlCheck.h"
 
@@ -24,7 +25,7 @@ bool isUnsureState(std::string_view state) {
 /// What both versions do with files and units.
 class Reader {
  public:
-  explicit Reader(const ElementLines& lines) : m_lines(lines) {}
+  explicit Reader(ElementLines lines) : m_lines(std::move(lines)) { m_document.units.reserve(m_lines.count()); }
 
   ExchangeDocument read(const pugi::xml_node& root) {
     const std::string_view version = root.attribute("version").value();
@@ -33,7 +34,7 @@ class Reader {
     if (isSecond) setLanguage(root.attribute("trgLang").value());
     for (const pugi::xml_node& file : root.children()) {
       if (!isNamed(file, "file")) continue;
-      m_file = file.attribute("original").value();
+      m_table = tableOfPath(file.attribute("original").value());
       isSecond ? readGroup2(file) : readFile(file);
     }
     if (m_document.languages.empty()) m_document.languages = {""};
@@ -47,9 +48,7 @@ class Reader {
     if (found == m_document.languages.end()) m_document.languages.emplace_back(code);
   }
 
-  std::uint32_t lineOf(const pugi::xml_node& node) const {
-    return m_lines.at(static_cast<std::size_t>(node.offset_debug()));
-  }
+  std::uint32_t lineOf(const pugi::xml_node& node) { return m_lines.at(static_cast<std::size_t>(node.offset_debug())); }
 
   void reject(const pugi::xml_node& unit, std::string sentence) {
     m_document.rejected.push_back({lineOf(unit), std::move(sentence)});
@@ -76,16 +75,18 @@ class Reader {
   }
 
   void readUnit(const pugi::xml_node& node) {
-    if (!node.attribute("id")) return reject(node, "The unit has no id.");
-    ExchangeUnit unit = startOf(node, node.attribute("id").value());
-    for (const pugi::xml_node& note : node.children()) {
-      if (isNamed(note, "note")) addNote(unit, note);
+    const pugi::xml_attribute id = node.attribute("id");
+    if (!id) return reject(node, "The unit has no id.");
+    ExchangeUnit unit = startOf(node, id.value());
+    InlineText text;
+    for (const pugi::xml_node& child : node.children()) {
+      if (isNamed(child, "source")) unit.source = inlineText(child).text;
+      if (isNamed(child, "note")) addNote(unit, child);
+      if (!isNamed(child, "target")) continue;
+      text = inlineText(child);
+      unit.isUnsure = isUnsureState(child.attribute("state").value());
     }
-    unit.source = inlineText(childNamed(node, "source")).text;
-    const pugi::xml_node target = childNamed(node, "target");
-    InlineText text = inlineText(target);
     if (!text.isWhole()) return rejectTag(node, text.tag);
-    unit.isUnsure = isUnsureState(target.attribute("state").value());
     finish(std::move(unit), std::move(text.text));
   }
 
@@ -127,10 +128,10 @@ class Reader {
 
   // ---- Both ----
 
-  ExchangeUnit startOf(const pugi::xml_node& node, const char* key) const {
+  ExchangeUnit startOf(const pugi::xml_node& node, const char* key) {
     ExchangeUnit unit;
     unit.line = lineOf(node);
-    unit.file = m_file;
+    unit.table = m_table;
     unit.key = key;
     return unit;
   }
@@ -145,24 +146,26 @@ class Reader {
     m_document.units.push_back(std::move(unit));
   }
 
-  const ElementLines& m_lines;
+  ElementLines m_lines;
   ExchangeDocument m_document;
-  std::string m_file;
+  std::string m_table;
   std::size_t m_language = 0;
 };
 
 }  // namespace
 
 Result<ExchangeDocument> readXliff(std::string text) {
-  const Result<ElementLines> lines = checkXml(text, {"trans-unit", "bin-unit", "unit"});
-  if (!lines) return lines.error();
+  Result<XmlSurvey> survey = checkXml(text, {"trans-unit", "bin-unit", "unit"});
+  if (!survey) return survey.error();
+  // White space counts where nothing else stands, and beside tags inside of texts; elsewhere it would only cost room.
+  const unsigned white = survey.value().hasShortNames ? pugi::parse_ws_pcdata : pugi::parse_ws_pcdata_single;
   pugi::xml_document document;
   const pugi::xml_parse_result parsed =
-      document.load_buffer_inplace(text.data(), text.size(), kFlags, pugi::encoding_utf8);
+      document.load_buffer_inplace(text.data(), text.size(), kFlags | white, pugi::encoding_utf8);
   if (!parsed) return Error{std::string("The XML cannot be read: ") + parsed.description() + "."};
   const pugi::xml_node root = childNamed(document, "xliff");
   if (!root) return Error{"line 1: The outermost element is not <xliff>."};
-  return Reader(lines.value()).read(root);
+  return Reader(std::move(survey.value().lines)).read(root);
 }
 
 }  // namespace glossmill

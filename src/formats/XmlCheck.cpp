@@ -1,6 +1,7 @@
 #include "formats/XmlCheck.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include "formats/XmlEscapes.h"
@@ -13,19 +14,29 @@ namespace {
 constexpr std::size_t kMostDepth = 100;
 constexpr std::size_t kMostAttributes = 100;
 constexpr std::size_t kMostElements = 10'000'000;
+constexpr std::size_t kShortName = 3;
 constexpr std::string_view kWhite = " \t\r\n";
 
-bool isWhite(char byte) {
-  return kWhite.find(byte) != kWhite.npos;
+constexpr bool isWhite(char byte) {
+  return byte == ' ' || byte == '\t' || byte == '\r' || byte == '\n';
 }
 
-bool startsName(char byte) {
+constexpr bool startsName(char byte) {
   const char letter = static_cast<char>(byte | 0x20);
   return (letter >= 'a' && letter <= 'z') || byte == '_' || byte == ':' || (byte & 0x80) != 0;
 }
 
+constexpr auto kNameBytes = [] {
+  std::array<bool, 256> isInName{};
+  for (std::size_t value = 0; value < isInName.size(); ++value) {
+    const char byte = static_cast<char>(static_cast<unsigned char>(value));
+    isInName[value] = startsName(byte) || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.';
+  }
+  return isInName;
+}();
+
 bool isInName(char byte) {
-  return startsName(byte) || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.';
+  return kNameBytes[static_cast<unsigned char>(byte)];
 }
 
 /// The first byte that XML lacks; the end of the text where there is none.
@@ -66,7 +77,7 @@ class Checker {
  public:
   Checker(std::string_view text, const std::vector<std::string_view>& names) : m_text(text), m_names(names) {}
 
-  Result<ElementLines> check() {
+  Result<XmlSurvey> check() {
     const std::size_t control = firstControl(m_text);
     if (control != m_text.size()) fail(control, "It holds a character that XML does not allow.");
     while (!m_error && m_at < m_text.size()) {
@@ -76,7 +87,7 @@ class Checker {
     if (!m_error && !m_open.empty()) fail(m_text.size(), "An element is not closed.");
     if (!m_error && m_elements == 0) fail(0, "It holds no element: this is no XML.");
     if (m_error) return *m_error;
-    return std::move(m_lines);
+    return std::move(m_survey);
   }
 
  private:
@@ -151,7 +162,7 @@ class Checker {
     if (name.empty()) return fail(begin, "“<” begins no tag.");
     if (m_open.empty() && m_elements > 0) return fail(begin, "There is more than one element at the outside.");
     if (++m_elements > kMostElements) return fail(begin, "It has too many elements.");
-    noteLine(name, begin);
+    note(name, begin);
     m_attributes.clear();
     while (takeAttribute()) continue;
     if (m_error) return;
@@ -164,9 +175,10 @@ class Checker {
     if (m_open.size() > kMostDepth) fail(begin, "Its elements lie too deep in one another.");
   }
 
-  void noteLine(std::string_view name, std::size_t begin) {
-    if (std::ranges::find(m_names, localName(name)) == m_names.end()) return;
-    m_lines.add(begin + 1, lineOf(begin));
+  void note(std::string_view name, std::size_t begin) {
+    const std::string_view local = localName(name);
+    m_survey.hasShortNames = m_survey.hasShortNames || local.size() <= kShortName;
+    if (std::ranges::find(m_names, local) != m_names.end()) m_survey.lines.add(begin + 1, lineOf(begin));
   }
 
   std::string_view takeName() {
@@ -249,15 +261,19 @@ class Checker {
   std::size_t m_elements = 0;
   std::vector<std::string_view> m_open;
   std::vector<std::string_view> m_attributes;  ///< of the tag
-  ElementLines m_lines;
+  XmlSurvey m_survey;
   std::optional<Error> m_error;
 };
 
 }  // namespace
 
-std::uint32_t ElementLines::at(std::size_t nameAt) const {
-  const auto found = std::ranges::lower_bound(m_lines, nameAt, {}, &Place::nameAt);
-  return found != m_lines.end() && found->nameAt == nameAt ? found->line : 0;
+std::uint32_t ElementLines::at(std::size_t nameAt) {
+  if (m_next == m_lines.size() || m_lines[m_next].nameAt != nameAt) {
+    const auto found = std::ranges::lower_bound(m_lines, nameAt, {}, &Place::nameAt);
+    m_next = static_cast<std::size_t>(found - m_lines.begin());
+  }
+  const bool isThere = m_next < m_lines.size() && m_lines[m_next].nameAt == nameAt;
+  return isThere ? m_lines[m_next++].line : 0;
 }
 
 std::string_view localName(std::string_view name) {
@@ -265,7 +281,7 @@ std::string_view localName(std::string_view name) {
   return colon == name.npos ? name : name.substr(colon + 1);
 }
 
-Result<ElementLines> checkXml(std::string_view text, const std::vector<std::string_view>& names) {
+Result<XmlSurvey> checkXml(std::string_view text, const std::vector<std::string_view>& names) {
   return Checker(text, names).check();
 }
 

@@ -10,6 +10,14 @@
 
 namespace glossmill {
 
+/// A kind of file that a panel offers.
+struct FileTypeGroup {
+  std::string title;
+  std::vector<std::string> types;  ///< extensions; the first is the usual one
+
+  bool operator==(const FileTypeGroup&) const = default;
+};
+
 /// What an open panel offers.
 struct OpenPanelRequest {
   std::string title;
@@ -18,12 +26,14 @@ struct OpenPanelRequest {
   bool canChooseDirectories = false;
   bool canChooseFiles = true;
   bool allowsMultipleSelection = false;
-  std::vector<std::string> fileTypes;  ///< extensions; empty: all
-  FileUrl directory;                   ///< where it opens; empty: the platform's choice
+  std::vector<std::string> fileTypes;    ///< extensions; empty: all
+  std::vector<FileTypeGroup> moreTypes;  ///< offered beside them
+  FileUrl directory;                     ///< where it opens; empty: the platform's choice
 };
 
 struct SavePanelRequest {
   std::string proposedName;
+  std::vector<FileTypeGroup> types;  ///< to choose from; the first is that of the proposed name. Empty: no choice
 };
 
 enum class AlertAnswer { Default, Alternate, Other };

@@ -21,6 +21,12 @@ std::vector<SelectLanguageWindowController::Table> tablesToChoose(const StringsT
   return offered;
 }
 
+/// Unless it is the program's own text, which panels offer anyway, or no file name stands for it.
+void addTypes(std::vector<FileTypeGroup>& groups, const ExchangeFormat& format) {
+  if (format.name == exchangeFormats().front().name || format.fileTypes.empty()) return;
+  groups.push_back({std::string(format.title), {format.fileTypes.begin(), format.fileTypes.end()}});
+}
+
 }  // namespace
 
 void ProjectWindowController::exportStrings() {
@@ -59,6 +65,8 @@ void ProjectWindowController::chooseExportFile(std::shared_ptr<Language> languag
   SavePanelRequest request;
   request.proposedName =
       formatText(localized("%@_%@.txt"), {m_projectDirectory.lastPathComponent(), language->iso639()});
+  request.types = {{localized("Text files"), {"txt"}}};
+  for (const ExchangeFormat& format : m_exchangeFormats) addTypes(request.types, format);
   m_host.panels.beginSavePanel(request, [this, language, scope](const std::optional<FileUrl>& file) {
     if (file) exportLanguageToFileAllStrings(language, *file, scope);
   });
@@ -68,6 +76,9 @@ void ProjectWindowController::chooseImportFile(std::shared_ptr<Language> languag
   OpenPanelRequest request;
   request.title = localized("Select file");
   for (const std::string_view type : ownFormat().fileTypes) request.fileTypes.emplace_back(type);
+  for (const ExchangeFormat& format : m_exchangeFormats) {
+    if (!format.isDirectory) addTypes(request.moreTypes, format);
+  }
   const std::optional<FileUrl> file = m_host.panels.runOpenPanel(request);
   if (file) importLanguageFromFile(language, *file);
 }

@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QProgressBar>
@@ -66,6 +67,25 @@ class ExportingTest : public DesktopFixture {
     const QByteArray text = demo().read(QStringLiteral("out.txt"));
     QVERIFY(text.startsWith("\n--- 4 ---\n"));
     QVERIFY(!text.contains("Auf"));
+  }
+
+  void writesTheKindOfFileThatIsChosen() {
+    openDemo();
+    press(Qt::Key_E, Qt::ControlModifier);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    auto* types = savePanel().findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    QVERIFY(types->isVisible());
+    QCOMPARE(types->currentText(), QStringLiteral("Text files (*.txt)"));
+    const int xliff = types->findText(QStringLiteral("XLIFF 1.2 (*.xliff *.xlf)"));
+    QVERIFY(xliff > 0);
+    types->setCurrentIndex(xliff);
+    Q_EMIT types->textActivated(types->currentText());
+    QCOMPARE(QFileInfo(savePanel().selectedFiles().value(0)).fileName(), QStringLiteral("Demo_de.xliff"));
+    enterFile(savePanel(), demo().file(QStringLiteral("out.xliff")));
+    waitForJob();
+    QVERIFY(demo().read(QStringLiteral("out.xliff")).contains("<target>Auf</target>"));
   }
 
   void writesNothingWhenTheSavePanelIsCancelled() {

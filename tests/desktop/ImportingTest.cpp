@@ -15,12 +15,12 @@ class ImportingTest : public DesktopFixture {
     QTest::keyClick(&panel, Qt::Key_Return);
   }
 
-  void importGerman(const QByteArray& text) {
-    demo().write(QStringLiteral("in.txt"), text);
-    answerPanel([this](QFileDialog& panel) {
+  void importGerman(const QByteArray& text, const QString& name = QStringLiteral("in.txt")) {
+    demo().write(name, text);
+    answerPanel([this, name](QFileDialog& panel) {
       QCOMPARE(panel.windowTitle(), QStringLiteral("Select file"));
       QVERIFY(panel.nameFilters().first().contains(QStringLiteral("*.txt *.rtf *.TXT *.RTF")));
-      enterFile(panel, demo().file(QStringLiteral("in.txt")));
+      enterFile(panel, demo().file(name));
     });
     press(Qt::Key_I, Qt::ControlModifier);
     press(Qt::Key_Down);
@@ -40,6 +40,28 @@ class ImportingTest : public DesktopFixture {
     QCOMPARE(cell(languages(), QStringLiteral("de"), 2), QStringLiteral("1 missing"));
     QVERIFY(!project().changed());
     QVERIFY(window().isWindowModified());
+  }
+
+  void importsAFileOfAnotherKindAsOneStep() {
+    openDemo();
+    select(languages(), QStringLiteral("de"));
+    importGerman("msgid \"Good night\"\nmsgstr \"Gute Nacht\"\n\nmsgid \"Open\"\nmsgstr \"Öffnen\"\n",
+                 QStringLiteral("in.po"));
+    waitForJob();
+    QCOMPARE(cell(strings(), QStringLiteral("Good night"), 1), QStringLiteral("Gute Nacht"));
+    QCOMPARE(cell(strings(), QStringLiteral("Open"), 1), QStringLiteral("Öffnen"));
+    project().undo();
+    QCOMPARE(cell(strings(), QStringLiteral("Good night"), 1), QString());
+    QCOMPARE(cell(strings(), QStringLiteral("Open"), 1), QStringLiteral("Auf"));
+  }
+
+  void tellsWhatIsWrongWithAFileOfAnotherKindAndTakesNothing() {
+    openDemo();
+    answerAlert(QStringLiteral("Ok"));
+    importGerman("msgid \"Open\"\nmsgstr \"Öffnen\"\nmsgid \"Good night\nmsgstr \"x\"\n", QStringLiteral("in.po"));
+    waitForJob();
+    QCOMPARE(alerts(), QStringList({QStringLiteral("The file could not be imported")}));
+    QCOMPARE(cell(strings(), QStringLiteral("Open"), 1), QStringLiteral("Auf"));
   }
 
   void findsWhatWasImported() {

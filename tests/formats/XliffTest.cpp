@@ -152,7 +152,7 @@ TEST(Xliff, SaysPlaceLanguageAndNoteOfAUnit) {
   EXPECT_EQ(read.value().sourceLanguage, "en");
   EXPECT_EQ(read.value().languages, Lines{"de"});
   const ExchangeUnit& unit = read.value().units.front();
-  EXPECT_EQ(unit.file, "en.lproj/Boats.strings");
+  EXPECT_EQ(unit.table, "Boats");
   EXPECT_EQ(unit.source, "s");
   EXPECT_EQ(unit.comment, "n\n\nm");
   EXPECT_EQ(unit.line, 3U);

@@ -65,11 +65,19 @@ TEST(XmlCheck, BoundsDepthAndAttributes) {
 }
 
 TEST(XmlCheck, KnowsTheLinesOfElementsWithTheNamesAskedFor) {
-  const auto lines = checkXml("<a>\n<b/>\n<x:unit/>\n\n<unit>\n</unit></a>", {"unit"});
-  ASSERT_TRUE(lines);
-  EXPECT_EQ(lines.value().at(10), 3U);
-  EXPECT_EQ(lines.value().at(21), 5U);
-  EXPECT_EQ(lines.value().at(5), 0U);
+  auto survey = checkXml("<a>\n<b/>\n<x:unit/>\n\n<unit>\n</unit></a>", {"unit"});
+  ASSERT_TRUE(survey);
+  ElementLines& lines = survey.value().lines;
+  EXPECT_EQ(lines.count(), 2U);
+  EXPECT_EQ(lines.at(21), 5U);
+  EXPECT_EQ(lines.at(10), 3U);
+  EXPECT_EQ(lines.at(21), 5U);
+  EXPECT_EQ(lines.at(5), 0U);
+}
+
+TEST(XmlCheck, TellsWhetherElementsHaveShortNames) {
+  EXPECT_TRUE(checkXml("<body><x:mrk/></body>", {}).value().hasShortNames);
+  EXPECT_FALSE(checkXml("<body><x:note/></body>", {}).value().hasShortNames);
 }
 
 }  // namespace

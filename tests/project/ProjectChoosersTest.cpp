@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/LanguageWindowController.h"
+#include "formats/XmlFormats.h"
 #include "support/TestProject.h"
 
 namespace glossmill {
@@ -112,6 +113,35 @@ TEST_F(ProjectChoosers, ProposeAFileNameForTheExport) {
   choose(1);
   ASSERT_EQ(m_test.host.panels.savePanels.size(), 1U);
   EXPECT_EQ(m_test.host.panels.savePanels.front().proposedName, "App_fr.txt");
+}
+
+std::vector<std::string> titlesOf(const std::vector<FileTypeGroup>& groups) {
+  std::vector<std::string> titles;
+  for (const FileTypeGroup& group : groups) titles.push_back(group.title + " " + group.types.front());
+  return titles;
+}
+
+TEST_F(ProjectChoosers, OfferTheFormatsThatHaveAFileType) {
+  m_test.project().addExchangeFormats(xmlFormats());
+  m_test.host.panels.willCancelSavePanel();
+  m_test.project().exportStrings();
+  choose(1);
+  EXPECT_EQ(titlesOf(m_test.host.panels.savePanels.front().types),
+            (std::vector<std::string>{"Text files txt", "PO (gettext) po", "CSV csv", "TSV tsv", "XLIFF 1.2 xliff",
+                                      "Xcode Localization Catalog xcloc"}));
+  m_test.host.panels.willCancelOpenPanel();
+  m_test.project().importStrings();
+  choose(1);
+  EXPECT_EQ(titlesOf(m_test.host.panels.openPanels.back().moreTypes),
+            (std::vector<std::string>{"PO (gettext) po", "CSV csv", "TSV tsv", "XLIFF 1.2 xliff"}));
+}
+
+TEST_F(ProjectChoosers, ExportInTheFormatThatTheFilesNameEndsWith) {
+  m_test.host.panels.willSaveAs("/x/out.csv");
+  m_test.project().exportStrings();
+  choose(1);
+  EXPECT_EQ(m_test.host.files.bytesOf("/x/out.csv"),
+            "table,key,source,comment,fr\r\n,Add,Add,,Ajouter\r\n,Bold,Bold,,\r\n");
 }
 
 TEST_F(ProjectChoosers, ExportAllStringsWhileTheCheckBoxIsOff) {

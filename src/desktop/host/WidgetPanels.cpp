@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -18,6 +19,38 @@ QString nameFilter(const std::vector<std::string>& fileTypes, const QString& lab
   QStringList patterns;
   for (const std::string& type : fileTypes) patterns.append(QStringLiteral("*.") + toQt(type));
   return QStringLiteral("%1 (%2)").arg(label, patterns.join(QLatin1Char(' ')));
+}
+
+QString nameFilter(const FileTypeGroup& group) {
+  return nameFilter(group.types, toQt(group.title));
+}
+
+/// First everything at once, then one by one.
+QStringList nameFilters(const OpenPanelRequest& request, const Bundle& bundle) {
+  const FileTypeGroup first{bundle.localizedString("Text files"), request.fileTypes};
+  if (request.moreTypes.empty()) return {nameFilter(first)};
+  FileTypeGroup all{bundle.localizedString("All files that can be imported"), request.fileTypes};
+  QStringList filters{nameFilter(first)};
+  for (const FileTypeGroup& group : request.moreTypes) {
+    all.types.insert(all.types.end(), group.types.begin(), group.types.end());
+    filters.append(nameFilter(group));
+  }
+  filters.prepend(nameFilter(all));
+  return filters;
+}
+
+/// The chosen kind of file gives the name its extension.
+void offerTypes(QFileDialog& panel, const std::vector<FileTypeGroup>& types) {
+  QStringList filters;
+  for (const FileTypeGroup& group : types) filters.append(nameFilter(group));
+  panel.setNameFilters(filters);
+  QObject::connect(&panel, &QFileDialog::filterSelected, &panel, [&panel, types, filters](const QString& chosen) {
+    const auto which = filters.indexOf(chosen);
+    if (which < 0) return;
+    const QFileInfo file(panel.selectedFiles().value(0));
+    const std::string& type = types[static_cast<std::size_t>(which)].types.front();
+    panel.selectFile(file.completeBaseName() + QLatin1Char('.') + toQt(type));
+  });
 }
 
 void prepareForDirectory(QFileDialog& panel, const OpenPanelRequest& request) {
@@ -51,7 +84,7 @@ std::optional<FileUrl> WidgetPanels::runOpenPanel(const OpenPanelRequest& reques
     prepareForDirectory(panel, request);
   } else {
     panel.setFileMode(QFileDialog::ExistingFile);
-    panel.setNameFilter(nameFilter(request.fileTypes, toQt(m_bundle.localizedString("Text files"))));
+    panel.setNameFilters(nameFilters(request, m_bundle));
   }
   // Also keeps a person from renaming and deleting, which no open panel is there for.
   panel.setOption(QFileDialog::ReadOnly, !request.canCreateDirectories);
@@ -74,6 +107,7 @@ void WidgetPanels::beginSavePanel(const SavePanelRequest& request, std::function
   auto* panel = new QFileDialog(m_parent, toQt(m_bundle.localizedString("Export")), m_lastDirectory);
   panel->setAttribute(Qt::WA_DeleteOnClose);
   panel->setAcceptMode(QFileDialog::AcceptSave);
+  if (!request.types.empty()) offerTypes(*panel, request.types);
   panel->selectFile(toQt(request.proposedName));
   m_filePanel = panel;
   QObject::connect(panel, &QDialog::finished, panel, [this, panel, done = std::move(done)](int result) {
