@@ -27,7 +27,7 @@ Result<FileUrl> textsOfBundle(FileReading& files, const FileUrl& bundle) {
 }  // namespace
 
 Result<std::string> readExchangeText(FileReading& files, const FileUrl& file) {
-  if (files.kindOf(file) != EntryKind::Directory) return readText(files, file);
+  if (file.pathExtension() != "xcloc") return readText(files, file);
   const Result<FileUrl> inside = textsOfBundle(files, file);
   return inside ? readText(files, inside.value()) : Result<std::string>(inside.error());
 }

@@ -1,10 +1,9 @@
 #include "formats/XmlCheck.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 
-#include "formats/XmlEscapes.h"
+#include "formats/XmlCharacters.h"
 #include "text/ByteSearch.h"
 
 namespace glossmill {
@@ -15,70 +14,13 @@ constexpr std::size_t kMostDepth = 100;
 constexpr std::size_t kMostAttributes = 100;
 constexpr std::size_t kMostElements = 10'000'000;
 constexpr std::size_t kShortName = 3;
-constexpr std::string_view kWhite = " \t\r\n";
-
-constexpr bool isWhite(char byte) {
-  return byte == ' ' || byte == '\t' || byte == '\r' || byte == '\n';
-}
-
-constexpr bool startsName(char byte) {
-  const char letter = static_cast<char>(byte | 0x20);
-  return (letter >= 'a' && letter <= 'z') || byte == '_' || byte == ':' || (byte & 0x80) != 0;
-}
-
-constexpr auto kNameBytes = [] {
-  std::array<bool, 256> isInName{};
-  for (std::size_t value = 0; value < isInName.size(); ++value) {
-    const char byte = static_cast<char>(static_cast<unsigned char>(value));
-    isInName[value] = startsName(byte) || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.';
-  }
-  return isInName;
-}();
-
-bool isInName(char byte) {
-  return kNameBytes[static_cast<unsigned char>(byte)];
-}
-
-/// The first byte that XML lacks; the end of the text where there is none.
-std::size_t firstControl(std::string_view text) {
-  constexpr std::size_t kBlock = 4096;
-  const auto lacks = [](char byte) { return (byte & 0xE0) == 0 && xmlLacks(static_cast<unsigned char>(byte)); };
-  for (std::size_t at = 0; at < text.size(); at += kBlock) {
-    const std::string_view block = text.substr(at, kBlock);
-    unsigned found = 0;
-    for (const char byte : block) found |= static_cast<unsigned>(lacks(byte));
-    if (found == 0) continue;
-    return at + static_cast<std::size_t>(std::ranges::find_if(block, lacks) - block.begin());
-  }
-  const std::size_t noCharacter = std::min(text.find("\xEF\xBF\xBE"), text.find("\xEF\xBF\xBF"));
-  return std::min(noCharacter, text.size());
-}
-
-/// Whether a number such as "#10" or "#xA" names a character.
-bool isCharacterNumber(std::string_view number) {
-  const bool isHex = number.starts_with("#x");
-  number.remove_prefix(isHex ? 2 : 1);
-  if (number.empty() || number.size() > 10) return false;
-  const std::uint64_t base = isHex ? 16 : 10;
-  std::uint64_t value = 0;
-  for (const char byte : number) {
-    const char letter = static_cast<char>(byte | 0x20);
-    std::uint64_t digit = base;
-    if (byte >= '0' && byte <= '9') digit = static_cast<std::uint64_t>(byte - '0');
-    if (isHex && letter >= 'a' && letter <= 'f') digit = static_cast<std::uint64_t>(letter - 'a') + 10;
-    if (digit >= base) return false;
-    value = value * base + digit;
-  }
-  const bool isSurrogate = value >= 0xD800 && value <= 0xDFFF;
-  return value <= 0x10FFFF && !isSurrogate && !xmlLacks(static_cast<char32_t>(value));
-}
 
 class Checker {
  public:
   Checker(std::string_view text, const std::vector<std::string_view>& names) : m_text(text), m_names(names) {}
 
   Result<XmlSurvey> check() {
-    const std::size_t control = firstControl(m_text);
+    const std::size_t control = firstLackedByXml(m_text);
     if (control != m_text.size()) fail(control, "It holds a character that XML does not allow.");
     while (!m_error && m_at < m_text.size()) {
       takeText();
@@ -94,7 +36,7 @@ class Checker {
   void takeText() {
     const std::size_t end = findByte(m_text, '<', m_at);
     const std::string_view piece = m_text.substr(m_at, end - m_at);
-    if (m_open.empty() && piece.find_first_not_of(kWhite) != piece.npos) {
+    if (m_open.empty() && piece.find_first_not_of(kXmlWhite) != piece.npos) {
       return fail(m_at, "Text stands outside the element that holds all others.");
     }
     checkReferences(m_at, end);
@@ -149,7 +91,7 @@ class Checker {
     const std::size_t end = findByte(m_text, '>', m_at);
     if (end == m_text.size()) return failHere();
     std::string_view name = m_text.substr(m_at + 2, end - m_at - 2);
-    while (!name.empty() && isWhite(name.back())) name.remove_suffix(1);
+    while (!name.empty() && isXmlWhite(name.back())) name.remove_suffix(1);
     if (m_open.empty() || m_open.back() != name)
       return fail(m_at, "A closing tag does not fit the one that it closes.");
     m_open.pop_back();
@@ -183,15 +125,15 @@ class Checker {
 
   std::string_view takeName() {
     const std::size_t begin = m_at;
-    if (m_at < m_text.size() && startsName(m_text[m_at])) {
-      while (m_at < m_text.size() && isInName(m_text[m_at])) ++m_at;
+    if (m_at < m_text.size() && startsXmlName(m_text[m_at])) {
+      while (m_at < m_text.size() && isInXmlName(m_text[m_at])) ++m_at;
     }
     return m_text.substr(begin, m_at - begin);
   }
 
   bool skipWhite() {
     const std::size_t begin = m_at;
-    while (m_at < m_text.size() && isWhite(m_text[m_at])) ++m_at;
+    while (m_at < m_text.size() && isXmlWhite(m_text[m_at])) ++m_at;
     return m_at > begin;
   }
 
@@ -231,7 +173,7 @@ class Checker {
       const std::string_view name =
           close == piece.npos ? std::string_view() : piece.substr(at + 1, std::min<std::size_t>(close - at - 1, 12));
       const bool isKnown = name == "amp" || name == "lt" || name == "gt" || name == "quot" || name == "apos";
-      if (!isKnown && !(name.starts_with('#') && isCharacterNumber(name))) {
+      if (!isKnown && !(name.starts_with('#') && isXmlCharacterNumber(name))) {
         return fail(at, "“&” begins no character that XML knows.");
       }
     }

@@ -66,7 +66,7 @@ void ProjectWindowController::chooseExportFile(std::shared_ptr<Language> languag
   request.proposedName =
       formatText(localized("%@_%@.txt"), {m_projectDirectory.lastPathComponent(), language->iso639()});
   request.types = {{localized("Text files"), {"txt"}}};
-  for (const ExchangeFormat& format : m_exchangeFormats) addTypes(request.types, format);
+  for (const ExchangeFormat& format : m_exchange.formats) addTypes(request.types, format);
   m_host.panels.beginSavePanel(request, [this, language, scope](const std::optional<FileUrl>& file) {
     if (file) exportLanguageToFileAllStrings(language, *file, scope);
   });
@@ -76,7 +76,7 @@ void ProjectWindowController::chooseImportFile(std::shared_ptr<Language> languag
   OpenPanelRequest request;
   request.title = localized("Select file");
   for (const std::string_view type : ownFormat().fileTypes) request.fileTypes.emplace_back(type);
-  for (const ExchangeFormat& format : m_exchangeFormats) {
+  for (const ExchangeFormat& format : m_exchange.formats) {
     if (!format.isDirectory) addTypes(request.moreTypes, format);
   }
   const std::optional<FileUrl> file = m_host.panels.runOpenPanel(request);

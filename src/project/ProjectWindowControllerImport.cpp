@@ -112,8 +112,10 @@ void ProjectWindowController::tellOfImport() {
     return;
   }
   logText({localized("Import: %ld new, %ld changed, %ld unchanged, %ld unknown"),
-           {static_cast<std::int64_t>(m_exchange.importReport.added), static_cast<std::int64_t>(m_exchange.importReport.changed),
-            static_cast<std::int64_t>(m_exchange.importReport.unchanged), static_cast<std::int64_t>(m_exchange.importReport.unknown)}});
+           {static_cast<std::int64_t>(m_exchange.importReport.added),
+            static_cast<std::int64_t>(m_exchange.importReport.changed),
+            static_cast<std::int64_t>(m_exchange.importReport.unchanged),
+            static_cast<std::int64_t>(m_exchange.importReport.unknown)}});
   for (const RejectedLine& line : m_exchange.importPlan.rejected()) {
     logText({localized("Import: line %ld was left out: %@"), {std::int64_t{line.line}, line.sentence}});
   }

@@ -31,7 +31,7 @@ bool XmlStringsReader::next(StringsEntry& entry) {
   if (!takeText(value, "string", entry.value, "A text is missing behind a key.")) return false;
   if (value.kind == XmlTag::Kind::Empty) {
     entry.form = StringsEntry::Form::EmptyTag;
-    entry.value = textBetween(value.begin, value.end, true);
+    entry.value = textBetween(value.begin, value.end, false);  // it reads as nothing
   }
   entry.end = static_cast<std::uint32_t>(m_reader.at());
   return true;
