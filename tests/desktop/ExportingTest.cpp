@@ -80,6 +80,7 @@ class ExportingTest : public DesktopFixture {
     QCOMPARE(types->currentText(), QStringLiteral("Text files (*.txt)"));
     const int xliff = types->findText(QStringLiteral("XLIFF 1.2 (*.xliff *.xlf)"));
     QVERIFY(xliff > 0);
+    types->setFocus();
     types->setCurrentIndex(xliff);
     Q_EMIT types->textActivated(types->currentText());
     QCOMPARE(QFileInfo(savePanel().selectedFiles().value(0)).fileName(), QStringLiteral("Demo_de.xliff"));

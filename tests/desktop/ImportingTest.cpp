@@ -57,6 +57,7 @@ class ImportingTest : public DesktopFixture {
 
   void tellsWhatIsWrongWithAFileOfAnotherKindAndTakesNothing() {
     openDemo();
+    select(languages(), QStringLiteral("de"));
     answerAlert(QStringLiteral("Ok"));
     importGerman("msgid \"Open\"\nmsgstr \"Öffnen\"\nmsgid \"Good night\nmsgstr \"x\"\n", QStringLiteral("in.po"));
     waitForJob();
