@@ -28,13 +28,19 @@ KEPT = {
 }
 SAMPLE = ROOT / "examples/Harbour"
 LANGUAGES = {"ar", "de", "en", "fr", "ja", "nb", "pt-BR"}
-COMMANDS = {"add-language", "check", "export", "fill", "history", "import", "init", "prune", "recover", "restore", "save",
-            "scan", "set", "status"}
 TIME_LIMIT = 60  # seconds; only a shell that hangs gets there
 
 
+def output(*arguments):
+    return subprocess.run([PROGRAM, *arguments], capture_output=True, check=True, text=True).stdout
+
+
+def commands():
+    return set(re.findall(r"^  ([a-z-]+)  ", output("--help").split("\nCommands:\n")[1].split("\n\n")[0], re.MULTILINE))
+
+
 def printed(what):
-    return subprocess.run([PROGRAM, "print", what], capture_output=True, check=True, text=True).stdout
+    return output("print", what)
 
 
 class Kept(unittest.TestCase):
@@ -64,17 +70,16 @@ class ManPages(unittest.TestCase):
 
     def test_every_command_and_every_option_has_its_place(self):
         page = printed("man").replace("\\-", "-")
-        for command in COMMANDS:
+        for command in commands():
             text = page[page.index(f".SS {command}\n"):].split(".SS ", 2)[1]
-            usage = subprocess.run([PROGRAM, command, "--help"], capture_output=True, check=True, text=True).stdout
-            for option in re.findall(r"^  (?:-\w,)?(--[\w-]+)", usage, re.MULTILINE):
+            for option in re.findall(r"^  (?:-\w,)?(--[\w-]+)", output(command, "--help"), re.MULTILINE):
                 with self.subTest(command=command, option=option):
                     common = page[page.index(".SH OPTIONS"):page.index(".SH COMMANDS")]
                     self.assertIn(f"\\fB{option}\\fR", common + text)
 
 
 class Completing:
-    """What every shell has to complete; `words(typed)` gives what it offers for the last word."""
+    """What every shell has to complete; `words(typed)` is what it offers for the last word."""
 
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
@@ -91,7 +96,8 @@ class Completing:
                 "XDG_DATA_HOME": str(self.home / "data")}
 
     def test_commands(self):
-        self.assertEqual(self.words("glossmill-cli "), COMMANDS)
+        self.assertGreater(len(commands()), 10)
+        self.assertEqual(self.words("glossmill-cli "), commands())
         self.assertEqual(self.words("glossmill-cli s"), {"save", "scan", "set", "status"})
 
     def test_options_of_a_command_only(self):
