@@ -27,7 +27,7 @@ bool isSpace(char character) {
   return character == ' ' || character == '\t' || character == '\n' || character == '\r';
 }
 
-bool isLineEnd(char character) {
+bool endsALine(char character) {
   return character == '\n' || character == '\r';
 }
 
@@ -186,7 +186,7 @@ void TreeEditor::write(std::string& out, const Item& item) const {
 std::string TreeEditor::indentOfLine(std::size_t at) const {
   const std::string_view text = m_tree.text();
   std::size_t begin = at;
-  while (begin > 0 && !isLineEnd(text[begin - 1])) --begin;
+  while (begin > 0 && !endsALine(text[begin - 1])) --begin;
   std::size_t end = begin;
   while (end < at && (text[end] == ' ' || text[end] == '\t')) ++end;
   return std::string(text.substr(begin, end - begin));
