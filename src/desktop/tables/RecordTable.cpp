@@ -148,16 +148,18 @@ void RecordTable::settle() {
   if (std::exchange(m_selectionWaits, false)) showSelection(Scrolling::ToSelection);
 }
 
-/// Whoever could see the selection before can see it afterwards, and so it is in a table that was empty; otherwise the
-/// topmost record stays where it was.
+/// Whoever could see the selection before can see it afterwards; otherwise the topmost record stays where it was. In a
+/// table that was empty the selection comes to the middle, as the window around it may still find its shape.
 void RecordTable::showRows() {
-  const bool selectionWasVisible = isSelectionVisible() || m_model.rowCount() == 0;
+  const bool wasEmpty = m_model.rowCount() == 0;
+  const bool selectionWasVisible = isSelectionVisible();
   {
     const QScopedValueRollback syncing(m_syncing, true);
     m_model.reset(m_rows->count());
     restoreTop();
   }
-  showSelection(selectionWasVisible ? Scrolling::ToSelection : Scrolling::Not);
+  const Scrolling scrolling = selectionWasVisible ? Scrolling::ToSelection : Scrolling::Not;
+  showSelection(wasEmpty ? Scrolling::ToMiddle : scrolling);
   m_selectionWaits = false;
 }
 
@@ -173,6 +175,7 @@ void RecordTable::showSelection(Scrolling scrolling) {
   m_view.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   m_view.setAutoScroll(true);
   if (scrolling == Scrolling::ToSelection) m_view.scrollTo(index);
+  if (scrolling == Scrolling::ToMiddle) m_view.scrollTo(index, QAbstractItemView::PositionAtCenter);
 }
 
 bool RecordTable::isSelectionVisible() const {

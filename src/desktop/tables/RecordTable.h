@@ -37,7 +37,7 @@ class RecordTable : public QObject, public TableView {
   void settle();
 
  private:
-  enum class Scrolling { Not, ToSelection };
+  enum class Scrolling { Not, ToSelection, ToMiddle };
 
   std::optional<std::size_t> rowForKey(const QEvent& event) const;
   void settleSoon();

@@ -39,8 +39,9 @@ void DetailPane::stringSelected() {
 
 QString DetailPane::commentsAndFiles(const LocalizeString& record) const {
   const QString comments = toQt(record.comment());
-  if (record.filesArray().empty()) return comments;
-  const QString files = toQt(formatText(m_bundle.localizedString("Files: %@"), {record.sourceList()}));
+  const std::string list = record.sourceList();
+  if (list.empty()) return comments;
+  const QString files = toQt(formatText(m_bundle.localizedString("Files: %@"), {list}));
   return comments.isEmpty() ? files : comments + QLatin1Char('\n') + files;
 }
 
