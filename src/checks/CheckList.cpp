@@ -60,6 +60,10 @@ constexpr Sentence kSentences[] = {
     {FindingKind::OtherClosingMark, "The text ends with “%@”, the source text with “%@”."},
     {FindingKind::SameAsSource, "The translation is the source text."},
     {FindingKind::OtherTranslationElsewhere, "The same source text is “%@” elsewhere."},
+    {FindingKind::RepeatedKey, "The key stands on line %@ already, with the same text."},
+    {FindingKind::RepeatedKeyOtherText, "The key stands on line %@ already, with another text; the last one counts."},
+    {FindingKind::UnusedEntry, "No source names the entry."},
+    {FindingKind::ReportedProblem, "%@"},
 };
 
 struct SeverityName {

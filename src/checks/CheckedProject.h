@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "checks/Finding.h"
@@ -7,6 +9,7 @@
 #include "model/LocalizeString.h"
 #include "model/Problem.h"
 #include "model/ProjectOptions.h"
+#include "model/ScanReport.h"
 #include "model/StringsTable.h"
 
 namespace glossmill {
@@ -15,6 +18,7 @@ namespace glossmill {
 struct CheckedLanguage {
   LanguageCode code;
   FileUrl file;                          ///< of the only table; empty under rules with tables, or without a file
+  std::optional<std::uint64_t> entries;  ///< that stood in that file when it was read; nothing: nobody knows
   std::vector<StoredText> translations;  ///< one for each record, in their order; no text where there is no entry
 };
 
@@ -27,6 +31,7 @@ struct CheckedProject {
   std::vector<CheckedLanguage> languages;
   std::vector<StringsTable> tables;
   std::vector<Problem> problems;
+  std::vector<FileFindings> leftOut;  ///< by file
   std::vector<FileUrl> sources;
   LanguageCode sourceLanguage;  ///< that is translated from; the empty code where nobody knows
 

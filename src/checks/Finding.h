@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,8 @@ enum class Check {
   Inconsistent,
   NotLiteral,
 };
+
+inline constexpr std::size_t kCheckCount = 12;
 
 enum class Severity { Info, Warning, Error };
 
@@ -48,6 +51,10 @@ enum class FindingKind {
   OtherClosingMark,
   SameAsSource,
   OtherTranslationElsewhere,
+  RepeatedKey,
+  RepeatedKeyOtherText,
+  UnusedEntry,
+  ReportedProblem,
 };
 
 /// Something wrong with one translation. The ranges are bytes of the two texts, empty where there is nothing to mark.

@@ -32,12 +32,25 @@ std::string codeOf(char32_t character) {
   return code;
 }
 
-/// French sets a no-break space between these marks and the word.
-bool frenchWantsSpace(const std::vector<Character>& characters, std::size_t at) {
-  constexpr std::u32string_view kMarksBehind = U":;!?»";
-  const bool isBefore =
-      at + 1 < characters.size() && kMarksBehind.find(characters[at + 1].value) != std::u32string_view::npos;
-  return isBefore || (at > 0 && characters[at - 1].value == U'«');
+/// Everything that is neither ASCII nor white space nor a mark of Latin-1 passes for a letter.
+bool isWordLetter(char32_t character) {
+  const char32_t small = character | 0x20;
+  return (small >= U'a' && small <= U'z') || (character >= 0xC0 && !isWhiteSpace(character));
+}
+
+/// A no-break space beside a mark, a number or a specifier is set there by design in many languages, and so is one
+/// behind a word of one letter. Between two other words it only looks like a blank.
+bool standsBetweenWords(const std::vector<Character>& characters, std::size_t at) {
+  constexpr std::u32string_view kOpening = U"([{";
+  if (at < 2 || at + 1 == characters.size()) return false;
+  const char32_t next = characters[at + 1].value;
+  const bool beginsWord = isWordLetter(next) || kOpening.find(next) != std::u32string_view::npos;
+  return beginsWord && isWordLetter(characters[at - 1].value) && isWordLetter(characters[at - 2].value);
+}
+
+bool endsSpecifier(const FormatReading& format, std::size_t place) {
+  return std::any_of(format.uses.begin(), format.uses.end(),
+                     [place](const FormatArgumentUse& use) { return use.range.begin + use.range.length == place; });
 }
 
 /// A glance that is enough for nearly all texts: no byte is a control character's, nor begins one of the characters
@@ -53,8 +66,8 @@ bool isPlain(std::string_view text) {
 class InvisibleSearch {
  public:
   explicit InvisibleSearch(const CheckedText& text)
-      : m_characters(charactersOf(text.translation, text.form)),
-        m_isFrench(baseOfCode(text.language) == "fr"),
+      : m_text(text.translation),
+        m_characters(charactersOf(text.translation, text.form)),
         m_spacesArePlain(hasPlainBlanksOnly(text)) {}
 
   std::vector<Finding> findings() {
@@ -76,7 +89,8 @@ class InvisibleSearch {
     const Character& character = m_characters[at];
     if (isControl(character.value)) add(FindingKind::ControlCharacter, character);
     if (character.value == 0xFFFD) add(FindingKind::ReplacementCharacter, character);
-    if (isNoBreakSpace(character.value) && m_spacesArePlain && !(m_isFrench && frenchWantsSpace(m_characters, at))) {
+    if (isNoBreakSpace(character.value) && m_spacesArePlain && standsBetweenWords(m_characters, at) &&
+        !endsSpecifier(readFormat(m_text), character.range.begin)) {
       add(FindingKind::NoBreakSpace, character);
     }
     followDirections(character);
@@ -96,8 +110,8 @@ class InvisibleSearch {
     m_findings.push_back({Check::Invisible, Severity::Warning, kind, codeOf(character.value), {}, {}, character.range});
   }
 
+  std::string_view m_text;
   std::vector<Character> m_characters;
-  bool m_isFrench;
   bool m_spacesArePlain;
   std::vector<Character> m_open;  ///< beginnings of directions
   std::vector<Finding> m_findings;

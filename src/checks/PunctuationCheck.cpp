@@ -54,8 +54,12 @@ std::optional<ClosingMark> closingMark(const std::vector<Character>& characters,
                                  [&last](const Mark& one) { return one.character == last.value; });
   if (mark == std::end(kClosingMarks)) return std::nullopt;
   if (isGreek && last.value == U';') return ClosingMark{MarkKind::Question, last.range};
-  const bool isEllipsis = isStop(last.value) && end > 1 && isStop(characters[end - 2].value);
-  return ClosingMark{isEllipsis ? MarkKind::Ellipsis : mark->kind, last.range};
+  if (!isStop(last.value)) return ClosingMark{mark->kind, last.range};
+  std::size_t begin = end - 1;
+  while (begin > 0 && isStop(characters[begin - 1].value)) --begin;
+  const std::size_t first = characters[begin].range.begin;
+  return ClosingMark{begin + 1 < end ? MarkKind::Ellipsis : mark->kind,
+                     {first, last.range.begin + last.range.length - first}};
 }
 
 std::string textAt(std::string_view text, TextRange range) {

@@ -91,6 +91,7 @@ ExitCode ProjectSession::read(const ProjectChoice& choice) {
     return ExitCode::Unusable;
   }
   m_checks = reading.value().checks;
+  m_settingsDirectory = reading.value().settingsDirectory;
   return openAt(reading.value().directory, reading.value());
 }
 

@@ -50,6 +50,8 @@ class ProjectSession {
   ReportingFiles& files() { return m_files; }
   /// What the opened project says of its checks.
   const CheckSettings& checks() const { return m_checks; }
+  /// Where its settings lie.
+  const FileUrl& settingsDirectory() const { return m_settingsDirectory; }
   Console& console() const { return m_console; }
 
   // Empty unless the session was told to keep them. The log is null as long as nothing was logged.
@@ -85,6 +87,7 @@ class ProjectSession {
   std::optional<ProjectLock> m_lock;
   CheckSettings m_checks;
   bool m_sumsUpLog = false;  ///< what is logged now is told as a sum, later
+  FileUrl m_settingsDirectory;
   std::string m_countsText;
   Json m_counts = Json::object();
   /// Never deleted: giving a large project's memory back piece by piece would take longer than ending the program does.

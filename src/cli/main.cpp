@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/AcceptCommand.h"
 #include "cli/AddLanguageCommand.h"
 #include "cli/CheckCommand.h"
 #include "cli/Console.h"
@@ -61,6 +62,7 @@ void addEverything(CLI::App& program, TypedCommand& typed) {
   addScanCommand(program, typed);
   addStatusCommand(program, typed);
   addCheckCommand(program, typed);
+  addAcceptCommand(program, typed);
   addSaveCommand(program, typed);
   addExportCommand(program, typed);
   addImportCommand(program, typed);

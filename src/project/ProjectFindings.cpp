@@ -1,12 +1,10 @@
 #include "project/ProjectFindings.h"
 
 #include <algorithm>
-#include <tuple>
 
-#include "checks/CheckList.h"
-#include "platform/ShownPath.h"
+#include "project/DevelopmentRegion.h"
 #include "project/ProjectWindowController.h"
-#include "text/Format.h"
+#include "scan/TreeWalk.h"
 
 namespace glossmill {
 
@@ -19,9 +17,13 @@ StringArray allRecords(const ProjectWindowController& project) {
   return records;
 }
 
-CheckedLanguage checkedLanguage(const Language& language, const StringArray& records) {
-  CheckedLanguage checked{language.code(), {}, {}};
-  if (language.urlDepth() == Language::kStringsFile) checked.file = language.localizedStringUrl();
+CheckedLanguage checkedLanguage(const ProjectWindowController& project, const Language& language,
+                                const StringArray& records) {
+  CheckedLanguage checked{language.code(), {}, {}, {}};
+  const bool hasFile = language.urlDepth() == Language::kStringsFile;
+  if (hasFile && project.tables().empty()) checked.file = language.localizedStringUrl();
+  const ReadFiles::File* const read = project.readFiles().find(checked.file);
+  if (read) checked.entries = read->entries;
   checked.translations.reserve(records.size());
   for (const std::shared_ptr<LocalizeString>& record : records) {
     checked.translations.push_back(record->languagesDict().stored(language.code()));
@@ -29,43 +31,29 @@ CheckedLanguage checkedLanguage(const Language& language, const StringArray& rec
   return checked;
 }
 
-FileUrl fileOf(const LocalizeString& record, const CheckedLanguage& language) {
-  if (!record.tableRow()) return language.file;
-  const StringsTable::File* const file = record.tableRow()->table->find(language.code);
-  return file ? file->file : FileUrl();
-}
-
-PlacedFinding missingFinding(const CheckedProject& project, const LocalizeString& record,
-                             const CheckedLanguage& language, StoredText translation) {
-  PlacedFinding finding;
-  finding.check = Check::Missing;
-  finding.severity = Severity::Error;
-  finding.kind = translation ? FindingKind::EmptyTranslation : FindingKind::NoTranslation;
-  finding.file = shownPath(project.directory, fileOf(record, language));
-  finding.language = language.code.text();
-  if (record.tableRow()) finding.table = record.tableRow()->table->id;
-  finding.key = record.name();
-  if (translation) finding.translation = translation.view();
-  finding.sentence = formatText(sentenceOf(finding.kind), {finding.what, finding.other});
-  return finding;
-}
-
-bool isMissing(const LocalizeString& record, StoredText translation) {
-  if (!record.tableRow()) return !translation;
-  return record.tableRow()->isWanted && (!translation || translation.view().empty());
-}
-
-bool isWanted(const FindingsWish& wish, LanguageCode language) {
-  return wish.languages.empty() ||
-         std::find(wish.languages.begin(), wish.languages.end(), language) != wish.languages.end();
-}
-
-auto orderOf(const PlacedFinding& finding) {
-  return std::tie(finding.file, finding.line, finding.column, finding.language, finding.check, finding.table,
-                  finding.key, finding.kind);
+/// Those of the rules, and what else could not be read.
+std::vector<Problem> allProblems(const ProjectWindowController& project) {
+  std::vector<Problem> problems = project.problems();
+  for (const FileFindings& file : project.scanReport().files()) {
+    if (!file.unread) continue;
+    const bool isTold = std::any_of(project.problems().begin(), project.problems().end(),
+                                    [&file](const Problem& problem) { return problem.file == file.file; });
+    if (!isTold) problems.push_back({file.file, 0, 0, "place-unread", file.unread->sentence});
+  }
+  return problems;
 }
 
 }  // namespace
+
+LanguageCode sourceLanguageOf(const ProjectWindowController& project, const CheckSettings& settings) {
+  if (!settings.sourceLanguage.empty()) return LanguageCode(settings.sourceLanguage);
+  for (const std::shared_ptr<StringsTable>& table : project.tables()) {
+    if (!table->files.empty()) return table->development;
+  }
+  if (!project.projectFileData()) return {};
+  return LanguageCode(
+      languageCodeForDirectoryName(project.iso639Dict(), developmentRegionOf(*project.projectFileData())));
+}
 
 CheckedProject checkedProject(const ProjectWindowController& project, const CheckSettings& settings) {
   CheckedProject checked;
@@ -73,29 +61,33 @@ CheckedProject checkedProject(const ProjectWindowController& project, const Chec
   checked.rules = project.projectOptions().rules;
   checked.records = allRecords(project);
   for (const std::shared_ptr<Language>& language : *project.languagesList()) {
-    checked.languages.push_back(checkedLanguage(*language, checked.records));
+    checked.languages.push_back(checkedLanguage(project, *language, checked.records));
   }
   for (const std::shared_ptr<StringsTable>& table : project.tables()) checked.tables.push_back(*table);
-  checked.problems = project.problems();
+  checked.problems = allProblems(project);
+  checked.leftOut = project.scanReport().files();
   checked.sources = project.fileList();
-  checked.sourceLanguage = LanguageCode(settings.sourceLanguage);
+  checked.sourceLanguage = sourceLanguageOf(project, settings);
   return checked;
 }
 
-std::vector<PlacedFinding> projectFindings(const CheckedProject& project, const CheckSettings&,
-                                           const FindingsWish& wish, FileReading&) {
-  std::vector<PlacedFinding> findings;
-  for (const CheckedLanguage& language : project.languages) {
-    if (!isWanted(wish, language.code)) continue;
-    for (std::size_t row = 0; row < project.records.size(); ++row) {
-      const LocalizeString& record = *project.records[row];
-      if (!isMissing(record, language.translations[row])) continue;
-      findings.push_back(missingFinding(project, record, language, language.translations[row]));
-    }
+std::vector<PlacedFinding> projectFindings(const CheckedProject& project, const CheckSettings& settings,
+                                           const FindingsWish& wish, FileReading& files) {
+  FindingsRun run(project, settings, wish, files);
+  while (run.step()) {
   }
-  std::stable_sort(findings.begin(), findings.end(),
-                   [](const PlacedFinding& a, const PlacedFinding& b) { return orderOf(a) < orderOf(b); });
-  return findings;
+  return run.take();
+}
+
+std::map<std::string, FindingCounts> countsByLanguage(const std::vector<PlacedFinding>& findings) {
+  std::map<std::string, FindingCounts> counts;
+  for (const PlacedFinding& finding : findings) {
+    FindingCounts& count = counts[finding.language];
+    if (finding.severity == Severity::Error) ++count.errors;
+    if (finding.severity == Severity::Warning) ++count.warnings;
+    if (finding.severity == Severity::Info) ++count.infos;
+  }
+  return counts;
 }
 
 }  // namespace glossmill

@@ -1,26 +1,19 @@
 #pragma once
 
-#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
-#include "checks/CheckSettings.h"
-#include "checks/CheckedProject.h"
-#include "checks/PlacedFinding.h"
-#include "platform/CancelFlag.h"
-#include "platform/Files.h"
+#include "project/FindingsRun.h"
 
 namespace glossmill {
 
 class ProjectWindowController;
 
-/// Which findings are wanted. Empty lists: all that the settings do not turn off, and all languages.
-struct FindingsWish {
-  std::vector<Check> checks;            ///< these are on, whatever the settings say
-  std::vector<LanguageCode> languages;  ///< findings about no language come along
-};
+/// The language that is translated from: what the settings say, else the project file. Main thread.
+LanguageCode sourceLanguageOf(const ProjectWindowController& project, const CheckSettings& settings);
 
-/// What the checks are to know of the open project. Main thread.
+/// What the checks are to know of the open project: quick, since its texts stay where they are. Main thread.
 CheckedProject checkedProject(const ProjectWindowController& project, const CheckSettings& settings);
 
 /// All findings of a project, but for those that the settings leave out: by file, line, column, language, check and
@@ -28,5 +21,16 @@ CheckedProject checkedProject(const ProjectWindowController& project, const Chec
 /// thread.
 std::vector<PlacedFinding> projectFindings(const CheckedProject& project, const CheckSettings& settings,
                                            const FindingsWish& wish, FileReading& files);
+
+struct FindingCounts {
+  std::size_t errors = 0;
+  std::size_t warnings = 0;
+  std::size_t infos = 0;
+
+  bool operator==(const FindingCounts&) const = default;
+};
+
+/// How many there are of each language, by its code; the empty code has those of no language.
+std::map<std::string, FindingCounts> countsByLanguage(const std::vector<PlacedFinding>& findings);
 
 }  // namespace glossmill

@@ -31,6 +31,8 @@ class SourceScanner {
   std::variant<SourceString, CallRejection> read();
   /// The source from the call's name on, 80 UTF-16 units at most (rule 18).
   std::string excerpt() const;
+  /// Where the call's name begins in the text.
+  std::size_t place() const { return m_groups.calls()[m_call].name; }
 
  private:
   std::string_view m_text;

@@ -1,68 +1,38 @@
 #include "settings/ProjectSettings.h"
 
-#include <algorithm>
-#include <nlohmann/json.hpp>
-
 #include "platform/ReadText.h"
-#include "settings/KeyLine.h"
+#include "settings/CheckSettingsJson.h"
+#include "settings/SettingsFile.h"
 #include "xcode/Routine.h"
 
 namespace glossmill {
 
 namespace {
 
-using SettingsJson = nlohmann::ordered_json;
-
-constexpr std::string_view kFileName = kProjectSettingsFile;
-
-Error mistake(std::size_t line, const std::string& what) {
-  return Error{std::string(kFileName) + ", line " + std::to_string(line) + ": " + what};
-}
-
-std::size_t lineOfByte(std::string_view text, std::size_t byte) {
-  const auto end = text.begin() + static_cast<std::ptrdiff_t>(std::min(byte, text.size()));
-  return 1 + static_cast<std::size_t>(std::count(text.begin(), end, '\n'));
-}
-
-Outcome takeText(const SettingsJson& value, std::string& text) {
-  if (!value.is_string()) return Error{"takes a text"};
-  text = value.get<std::string>();
-  return Done{};
-}
-
-Outcome takeTexts(const SettingsJson& value, std::vector<std::string>& texts) {
-  if (!value.is_array()) return Error{"takes a list of texts"};
-  for (const SettingsJson& item : value) {
-    const Outcome taken = takeText(item, texts.emplace_back());
-    if (!taken) return Error{"takes a list of texts"};
-    if (texts.back().empty()) return Error{"holds an empty text"};
-  }
-  return Done{};
-}
-
-Outcome takeRules(const SettingsJson& value, std::optional<RuleSet>& rules) {
+MaybeMistake takeRules(const SettingsJson& value, const JsonWay& way, std::optional<RuleSet>& rules) {
   if (value == "classic") rules = RuleSet::Classic;
   if (value == "xcode") rules = RuleSet::Xcode;
-  return rules ? Outcome(Done{}) : Error{"is either \"classic\" or \"xcode\""};
+  return rules ? MaybeMistake() : SettingsMistake{way, "is either \"classic\" or \"xcode\""};
 }
 
-Outcome takeRoutines(const SettingsJson& value, std::vector<std::string>& routines) {
-  const Outcome taken = takeTexts(value, routines);
-  if (!taken) return taken;
+MaybeMistake takeRoutines(const SettingsJson& value, const JsonWay& way, std::vector<std::string>& routines) {
+  if (MaybeMistake mistake = takeTexts(value, way, routines)) return mistake;
   for (const std::string& routine : routines) {
     const Result<Routine> parsed = parseRoutine(routine);
-    if (!parsed) return Error{"\"" + routine + "\": " + parsed.error().sentence};
+    if (!parsed) return SettingsMistake{way, "\"" + routine + "\": " + parsed.error().sentence};
   }
-  return Done{};
+  return std::nullopt;
 }
 
-Outcome takeMember(const std::string& key, const SettingsJson& value, ProjectSettings& settings) {
-  if (key == "rules") return takeRules(value, settings.rules);
-  if (key == "packages") return takeTexts(value, settings.packages);
-  if (key == "exclude") return takeTexts(value, settings.exclude);
-  if (key == "routines") return takeRoutines(value, settings.routines);
-  if (key == "sourceLanguage") return takeText(value, settings.sourceLanguage);
-  return Error{"is not known"};
+MaybeMistake takeMember(const SettingsJson& value, const JsonWay& way, ProjectSettings& settings) {
+  const std::string& key = way.back();
+  if (key == "rules") return takeRules(value, way, settings.rules);
+  if (key == "packages") return takeTexts(value, way, settings.packages);
+  if (key == "exclude") return takeTexts(value, way, settings.exclude);
+  if (key == "routines") return takeRoutines(value, way, settings.routines);
+  if (key == "sourceLanguage") return takeText(value, way, settings.sourceLanguage);
+  if (key == "checks") return takeChecks(value, way, settings.checks);
+  return SettingsMistake{way, "is not known"};
 }
 
 /// As the first member, set off as the one that was the first.
@@ -81,17 +51,12 @@ void insertRules(std::string& text, const std::string& value) {
 }  // namespace
 
 Result<ProjectSettings> parseProjectSettings(std::string_view text) {
-  SettingsJson json;
-  try {
-    json = SettingsJson::parse(text);
-  } catch (const SettingsJson::parse_error& problem) {
-    return mistake(lineOfByte(text, problem.byte == 0 ? 0 : problem.byte - 1), "this is not correct JSON");
-  }
-  if (!json.is_object()) return mistake(1, "an object is expected, in braces");
+  const Result<SettingsJson> json = parseSettingsFile(text, kProjectSettingsFile);
+  if (!json) return json.error();
   ProjectSettings settings;
-  for (const auto& [key, value] : json.items()) {
-    const Outcome taken = takeMember(key, value, settings);
-    if (!taken) return mistake(lineOfKey(text, key), "\"" + key + "\" " + taken.error().sentence);
+  for (const auto& [key, value] : json.value().items()) {
+    const MaybeMistake mistake = takeMember(value, {key}, settings);
+    if (mistake) return errorOf(*mistake, text, kProjectSettingsFile);
   }
   return settings;
 }
@@ -110,7 +75,8 @@ Result<std::string> settingsTextWithRules(std::string_view text, RuleSet rules) 
   wanted.rules = rules;
   const Result<ProjectSettings> after = parseProjectSettings(changed);
   if (after && after.value() == wanted) return changed;
-  return mistake(1, "the rules cannot be changed here; change them in the file");
+  return Error{std::string(kProjectSettingsFile) +
+               ", line 1: the rules cannot be changed here; change them in the file"};
 }
 
 std::string projectSettingsText(const ProjectSettings& settings) {
@@ -120,14 +86,15 @@ std::string projectSettingsText(const ProjectSettings& settings) {
   if (!settings.exclude.empty()) json["exclude"] = settings.exclude;
   if (!settings.routines.empty()) json["routines"] = settings.routines;
   if (!settings.sourceLanguage.empty()) json["sourceLanguage"] = settings.sourceLanguage;
+  if (settings.checks.areNamed) json["checks"] = jsonOfChecks(settings.checks);
   return json.dump(2, ' ', false, SettingsJson::error_handler_t::replace) + "\n";
 }
 
 Result<ProjectSettings> readProjectSettings(FileReading& files, const FileUrl& directory) {
-  const FileUrl file = directory.appending(kFileName);
+  const FileUrl file = directory.appending(kProjectSettingsFile);
   if (!files.identityOf(file)) return ProjectSettings();
   const Result<std::string> text = readText(files, file);
-  if (!text) return Error{"cannot read " + std::string(kFileName) + ": " + text.error().sentence};
+  if (!text) return Error{"cannot read " + std::string(kProjectSettingsFile) + ": " + text.error().sentence};
   return parseProjectSettings(text.value());
 }
 

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "checks/CheckSettings.h"
 #include "model/ProjectOptions.h"
 #include "platform/Files.h"
 
@@ -17,6 +18,7 @@ struct ProjectSettings {
   std::vector<std::string> exclude;
   std::vector<std::string> routines;
   std::string sourceLanguage;
+  CheckSettings checks = {};  ///< without the source language, and without what was accepted
 
   bool operator==(const ProjectSettings&) const = default;
 };

@@ -1,5 +1,6 @@
 #include "settings/ReadingChoice.h"
 
+#include "settings/AcceptedFindings.h"
 #include "settings/ProjectSettings.h"
 
 namespace glossmill {
@@ -35,7 +36,12 @@ Result<ReadingChoice> readingChoice(FileReading& files, const FileUrl& opened, c
   if (!settings) return settings.error();
   ReadingChoice choice;
   choice.rules = wish.rules ? *wish.rules : settings.value().rules.value_or(wish.otherwiseRules);
+  choice.settingsDirectory = directory;
   choice.directory = choice.rules == RuleSet::Xcode ? directory : opened;
+  Result<std::vector<Acceptance>> accepted = readAcceptances(files, directory);
+  if (!accepted) return accepted.error();
+  choice.checks = settings.value().checks;
+  choice.checks.accepted = std::move(accepted.value());
   choice.checks.sourceLanguage = settings.value().sourceLanguage;
   if (choice.rules == RuleSet::Classic) return choice;
   Result<std::vector<FileUrl>> packages =

@@ -22,6 +22,7 @@ struct ReadingWish {
 /// How a project is read in the end.
 struct ReadingChoice {
   FileUrl directory;
+  FileUrl settingsDirectory;  ///< the same, but for a package that was opened itself
   RuleSet rules = RuleSet::Classic;
   XcodeOptions xcode;
   CheckSettings checks;

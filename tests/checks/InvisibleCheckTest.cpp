@@ -34,18 +34,25 @@ TEST(InvisibleCheck, FindsReplacementCharacters) {
   expectFindings(invisibleFindings, {{"a", "gr\uFFFDer", {ReplacementCharacter}}, {"a", "fi\uFB01", {}}});
 }
 
-TEST(InvisibleCheck, FindsNoBreakSpacesWhereTheSourceTextHasBlanks) {
-  expectFindings(invisibleFindings, {{"a b", "c\u00A0d", {NoBreakSpace}},
-                                     {"a b", "c\u202Fd", {NoBreakSpace}},
-                                     {"a\u00A0b", "c\u00A0d", {}},
-                                     {"ab", "c\u00A0d", {}},
-                                     {"a b", "c\u00A0!", {NoBreakSpace}, "de"}});
+TEST(InvisibleCheck, FindsNoBreakSpacesBetweenWordsWhereTheSourceTextHasBlanks) {
+  expectFindings(invisibleFindings, {{"a b", "to\u00A0do", {NoBreakSpace}},
+                                     {"a b", "to\u202Fdo", {NoBreakSpace}},
+                                     {"a b", "größe\u00A0über", {NoBreakSpace}},
+                                     {"a b", "to\u00A0(do)", {NoBreakSpace}},
+                                     {"a b", "to\u00A0do", {NoBreakSpace}, "fr"},
+                                     {"a\u00A0b", "to\u00A0do", {}},
+                                     {"ab", "to\u00A0do", {}}});
 }
 
-TEST(InvisibleCheck, KnowsWhereFrenchWantsSpace) {
-  expectFindings(invisibleFindings, {{"a b", "a\u00A0: \u00AB\u00A0b\u00A0\u00BB\u202F!", {}, "fr"},
-                                     {"a b", "a\u00A0? b\u00A0;", {}, "fr-CA"},
-                                     {"a b", "c\u00A0d", {NoBreakSpace}, "fr"}});
+TEST(InvisibleCheck, AcceptsNoBreakSpacesBesideMarksNumbersSpecifiersAndShortWords) {
+  expectFindings(invisibleFindings, {{"a b", "an\u00A0: \u00AB\u00A0be\u00A0\u00BB\u202F!", {}, "fr"},
+                                     {"a b", "an\u00A0? be\u00A0;", {}, "fr-CA"},
+                                     {"a b", "Öffnen\u00A0…", {}},
+                                     {"a b", "Livellu\u00A0: an", {}, "co"},
+                                     {"a b", "50\u00A0% an", {}},
+                                     {"a b", "Mac\u00A05", {}},
+                                     {"a %d b", "an %d\u00A0kbps", {}},
+                                     {"a b", "k\u00A0souboru", {}, "cs"}});
 }
 
 }  // namespace

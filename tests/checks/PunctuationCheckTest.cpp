@@ -41,6 +41,11 @@ TEST(PunctuationCheck, MarksBothMarks) {
             (std::vector<Finding>{{Check::Punctuation, Severity::Info, OtherClosingMark, "。", "?", {4, 1}, {3, 3}}}));
 }
 
+TEST(PunctuationCheck, MarksAllDotsOfAnEllipsis) {
+  EXPECT_EQ(punctuationFindings({"Done.", "Fertig..", "de", "en", TextForm::Values}),
+            (std::vector<Finding>{{Check::Punctuation, Severity::Info, OtherClosingMark, "..", ".", {4, 1}, {6, 2}}}));
+}
+
 TEST(PunctuationCheck, LooksAtTheEndOfLongTextsOnly) {
   const std::string filling(100, 'a');
   expectFindings(punctuationFindings, {{filling + "?", filling + "ä.", {OtherClosingMark}}});

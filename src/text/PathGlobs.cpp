@@ -1,8 +1,9 @@
-#include "xcode/PathGlobs.h"
+#include "text/PathGlobs.h"
 
 #include <algorithm>
 
 #include "text/Split.h"
+#include "text/Utf8.h"
 
 namespace glossmill {
 
@@ -36,6 +37,12 @@ bool fitsPattern(std::size_t patternSize, std::size_t size, IsStar isStar, Fits 
   return in == patternSize;
 }
 
+std::u32string charactersOf(std::string_view text) {
+  std::u32string characters;
+  while (!text.empty()) characters.push_back(takeCodePoint(text));
+  return characters;
+}
+
 bool partFits(std::string_view pattern, std::string_view part) {
   return fitsPattern(
       pattern.size(), part.size(), [pattern](std::size_t in) { return pattern[in] == '*'; },
@@ -43,6 +50,15 @@ bool partFits(std::string_view pattern, std::string_view part) {
 }
 
 }  // namespace
+
+bool fitsWildcards(std::string_view pattern, std::string_view text) {
+  if (pattern.find_first_of("*?") == pattern.npos) return pattern == text;
+  const std::u32string wanted = charactersOf(pattern);
+  const std::u32string found = charactersOf(text);
+  return fitsPattern(
+      wanted.size(), found.size(), [&wanted](std::size_t in) { return wanted[in] == U'*'; },
+      [&](std::size_t in, std::size_t at) { return wanted[in] == U'?' || wanted[in] == found[at]; });
+}
 
 PathGlobs::PathGlobs(const std::vector<std::string>& patterns) {
   for (const std::string& pattern : patterns) {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "xcode/PathGlobs.h"
+#include "text/PathGlobs.h"
 
 namespace glossmill {
 namespace {
@@ -38,6 +38,18 @@ TEST(PathGlobs, ManyStarsDoNoHarm) {
 TEST(PathGlobs, NoPatternTakesNothing) {
   EXPECT_FALSE(PathGlobs().take("a"));
   EXPECT_FALSE(PathGlobs({"", "/"}).take("a"));
+}
+
+TEST(Wildcards, StandForOtherCharactersOfTheWholeText) {
+  EXPECT_TRUE(fitsWildcards("legal.*", "legal.a/b"));
+  EXPECT_TRUE(fitsWildcards("*", ""));
+  EXPECT_TRUE(fitsWildcards("", ""));
+  EXPECT_TRUE(fitsWildcards("?ffnen", "\u00D6ffnen"));
+  EXPECT_TRUE(fitsWildcards("a*b*c", "aXbYbZc"));
+  EXPECT_FALSE(fitsWildcards("legal", "legal.a"));
+  EXPECT_FALSE(fitsWildcards("??ffnen", "\u00D6ffnen"));
+  EXPECT_FALSE(fitsWildcards("a*b", "aXc"));
+  EXPECT_FALSE(fitsWildcards("", "a"));
 }
 
 }  // namespace

@@ -6,6 +6,10 @@
 
 namespace glossmill {
 
+/// Whether the whole text is what a pattern describes, in which `*` stands for any number of characters and `?` for
+/// one.
+bool fitsWildcards(std::string_view pattern, std::string_view text);
+
 /// Patterns of paths that are left out. In a pattern `*` stands for anything but a slash, `?` for one character that is
 /// no slash, and `**` as a whole part for any number of parts. One that takes a directory takes all that is inside.
 class PathGlobs {
