@@ -62,6 +62,10 @@ bool isWhiteSpace(char32_t character) {
          isLineBreak(character);
 }
 
+bool isXcodePlaceholder(std::string_view text) {
+  return text == "Text Cell" || text == "Table View Cell" || text == "Header View Cell";
+}
+
 std::string_view baseOfCode(std::string_view code) {
   return code.substr(0, code.find_first_of("-_"));
 }

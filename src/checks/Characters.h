@@ -24,6 +24,9 @@ bool isLineBreak(char32_t character);
 bool isWhiteSpace(char32_t character);
 bool isNoBreakSpace(char32_t character);
 
+/// What Xcode writes into new interface files, and nobody ever sees.
+bool isXcodePlaceholder(std::string_view text);
+
 /// The first part of a language's code: "pt" of "pt-BR" and of "pt_BR".
 std::string_view baseOfCode(std::string_view code);
 

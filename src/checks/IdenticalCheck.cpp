@@ -1,16 +1,12 @@
 #include "checks/IdenticalCheck.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "checks/Characters.h"
 
 namespace glossmill {
 
 namespace {
-
-/// What Xcode writes into new tables, which nobody ever sees.
-constexpr std::string_view kPlaceholders[] = {"Text Cell", "Table View Cell", "Header View Cell"};
 
 bool isLower(char32_t character) {
   return (character >= U'a' && character <= U'z') || character >= 0xC0;
@@ -93,7 +89,7 @@ bool isTranslatedElsewhere(const CheckedText& text, const EachTranslation& trans
 
 std::vector<Finding> identicalFindings(const CheckedText& text, const EachTranslation& translations) {
   if (text.translation != text.source || baseOfCode(text.language) == baseOfCode(text.baseLanguage)) return {};
-  if (std::find(std::begin(kPlaceholders), std::end(kPlaceholders), text.source) != std::end(kPlaceholders)) return {};
+  if (isXcodePlaceholder(text.source)) return {};
   const WordCounts words = WordCounter(text.source).count(charactersOf(text.source, text.form));
   if (words.all < 2 || !(isSentence(words, text.source) || isTranslatedElsewhere(text, translations))) return {};
   return {{Check::Identical, Severity::Info, FindingKind::SameAsSource, {}, {}, {}, {0, text.translation.size()}}};

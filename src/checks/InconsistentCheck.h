@@ -2,14 +2,19 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "checks/SourceTexts.h"
 
 namespace glossmill {
 
-/// Rows that have one source text, for each such text.
-using SameSources = std::vector<std::vector<std::uint32_t>>;
+/// A source text that several rows have.
+struct SameSource {
+  std::string_view source;
+  std::vector<std::uint32_t> rows;
+};
+using SameSources = std::vector<SameSource>;
 
 SameSources sameSources(const SourceTexts& sources, std::size_t rows);
 
@@ -19,7 +24,8 @@ struct RowFinding {
   std::size_t row = 0;
 };
 
-/// Rows of one language whose translation is another than most rows with their source text have.
+/// Rows of one language whose translation is another than most rows with their source text have. What was left as the
+/// source text is no translation here, and the width of blanks does not matter.
 std::vector<RowFinding> inconsistentFindings(const CheckedLanguage& language, const SameSources& groups);
 
 }  // namespace glossmill

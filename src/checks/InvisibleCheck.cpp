@@ -32,10 +32,12 @@ std::string codeOf(char32_t character) {
   return code;
 }
 
-/// Everything that is neither ASCII nor white space nor a mark of Latin-1 passes for a letter.
+/// Everything that is neither ASCII nor white space nor among the marks of Latin-1 and of U+2000 to U+206F passes for a
+/// letter.
 bool isWordLetter(char32_t character) {
   const char32_t small = character | 0x20;
-  return (small >= U'a' && small <= U'z') || (character >= 0xC0 && !isWhiteSpace(character));
+  const bool isMark = character >= 0x2000 && character <= 0x206F;
+  return (small >= U'a' && small <= U'z') || (character >= 0xC0 && !isMark && !isWhiteSpace(character));
 }
 
 /// A no-break space beside a mark, a number or a specifier is set there by design in many languages, and so is one

@@ -4,6 +4,9 @@ namespace glossmill {
 
 namespace {
 
+/// The table whose keys the system looks for by itself.
+constexpr std::string_view kReadByTheSystem = "InfoPlist";
+
 Finding unusedEntry() {
   return {Check::Unused, Severity::Info, FindingKind::UnusedEntry, {}, {}, {}, {}};
 }
@@ -11,7 +14,8 @@ Finding unusedEntry() {
 }  // namespace
 
 std::vector<Finding> unusedFindings(const CheckedRow& row) {
-  if (!row.translation || !row.record.tableRow() || !row.record.tableRow()->isUnused) return {};
+  const TableRow* const of = row.record.tableRow();
+  if (!row.translation || !of || !of->isUnused || of->table->name == kReadByTheSystem) return {};
   return {unusedEntry()};
 }
 

@@ -25,7 +25,7 @@ struct AcceptOptions {
 };
 
 /// Nothing, explained on the console, when one of them is no check.
-std::optional<std::vector<Check>> chosenChecks(const AcceptOptions& options, const Console& console) {
+std::optional<std::vector<Check>> chosenChecks(const AcceptOptions& options, Console& console) {
   std::vector<Check> checks;
   for (const std::string& name : options.checks) {
     const std::optional<Check> check = checkNamed(name);

@@ -70,11 +70,20 @@ void FindingPlaces::addAtEntry(const CheckedFile& file, PlacedFinding placed) {
   if (number) m_strings[file.url.path()].findings.push_back(*number);
 }
 
-/// At the first call; else at the entry of the language that is translated from; else at the file that lacks it.
+/// That of the language that is translated from, or else of the first one that has the row.
+const CheckedFile* FindingPlaces::fileThatHolds(const FindingOfRow& found) const {
+  if (const CheckedFile* const development = m_checkedFiles.developmentFileOf(found.record)) return development;
+  for (const CheckedLanguage& language : m_project.languages) {
+    if (language.translations[found.row]) return m_checkedFiles.of(found.record, language);
+  }
+  return nullptr;
+}
+
+/// At the first call; else at the entry of another language.
 void FindingPlaces::addWithoutEntry(const FindingOfRow& found, PlacedFinding placed) {
   if (const TableRow* const row = found.record.tableRow()) {
-    const CheckedFile* const development = m_checkedFiles.developmentFileOf(found.record);
-    if (row->places.empty() && development) return addAtEntry(*development, std::move(placed));
+    const CheckedFile* const other = row->places.empty() ? fileThatHolds(found) : nullptr;
+    if (other) return addAtEntry(*other, std::move(placed));
     if (row->places.empty()) return static_cast<void>(m_findings.add(std::move(placed)));
     const SourcePlace& call = row->places.front();
     placed.file = shown(call.file);

@@ -20,6 +20,7 @@ struct FindingOfRow {
   const CheckedLanguage& language;
   std::optional<std::string_view> source;
   StoredText translation;
+  std::size_t row = 0;  ///< number of the record
 };
 
 /// Gives findings their places, for which it reads files again, and finds on the way what only files show: repeated
@@ -57,6 +58,7 @@ class FindingPlaces {
   using WaitingByKey = std::multimap<std::string, std::size_t, std::less<>>;
 
   std::string shown(const FileUrl& file) const;
+  const CheckedFile* fileThatHolds(const FindingOfRow& found) const;
   void addAtEntry(const CheckedFile& file, PlacedFinding placed);
   void addWithoutEntry(const FindingOfRow& found, PlacedFinding placed);
   void readSource(const std::string& path, const SourceWork& work);

@@ -108,7 +108,7 @@ void FindingsRun::findInconsistent(const CheckedLanguage& language) {
 void FindingsRun::add(Finding finding, const CheckedLanguage& language, std::size_t row) {
   const LocalizeString& record = *m_project.records[row];
   if (record.tableRow() && !counts(language.code, record.tableRow()->table->id)) return;
-  m_places.add({std::move(finding), record, language, m_sources->of(row), language.translations[row]});
+  m_places.add({std::move(finding), record, language, m_sources->of(row), language.translations[row], row});
 }
 
 void FindingsRun::listFiles() {

@@ -47,5 +47,24 @@ TEST(InconsistentCheck, LooksOnlyAtRowsWithSourceTextAndTranslation) {
   EXPECT_EQ(found(rows), Lines());
 }
 
+TEST(InconsistentCheck, WhatWasLeftAsItIsIsNoTranslation) {
+  ProjectOfRows rows({"en", "de"});
+  rows.add("a", {{"en", "Open"}, {"de", "Open"}});
+  rows.add("b", {{"en", "Open"}, {"de", "Open"}});
+  rows.add("c", {{"en", "Open"}, {"de", "Öffnen"}});
+  EXPECT_EQ(found(rows), Lines());
+}
+
+TEST(InconsistentCheck, PassesOverBlanksOfOtherWidthsTextsWithoutWordsAndPlaceholders) {
+  ProjectOfRows rows({"en", "de"});
+  rows.add("a", {{"en", "%d files"}, {"de", "%d Dateien"}});
+  rows.add("b", {{"en", "%d files"}, {"de", "%d\u00A0Dateien"}});
+  rows.add("c", {{"en", "- 1"}, {"de", "a"}});
+  rows.add("d", {{"en", "- 1"}, {"de", "b"}});
+  rows.add("e", {{"en", "Text Cell"}, {"de", "a"}});
+  rows.add("f", {{"en", "Text Cell"}, {"de", "b"}});
+  EXPECT_EQ(found(rows), Lines());
+}
+
 }  // namespace
 }  // namespace glossmill

@@ -41,6 +41,18 @@ TEST(RowFindings, AnEntryThatNothingNamesIsUnused) {
   EXPECT_EQ(foundInTable(false, true, ""), Kinds{UnusedEntry});
 }
 
+TEST(RowFindings, WhatTheSystemReadsByItselfIsNotUnused) {
+  ProjectOfRows rows({"en", "de"});
+  LocalizeString& record = rows.addToTable("CFBundleName", "Harbour", {});
+  record.tableRow()->isWanted = false;
+  record.tableRow()->isUnused = true;
+  auto table = std::make_shared<StringsTable>();
+  table->name = "InfoPlist";
+  record.tableRow()->table = std::move(table);
+  EXPECT_EQ(kindsOf(rowFindings({record, "Harbour", "Hafen", "de", "en", TextForm::Values}, CheckPolicy({}, {}))),
+            Kinds());
+}
+
 TEST(RowFindings, ComeFromAllChecksThatLookAtTexts) {
   EXPECT_EQ(foundIn("%d left?", " \"%@\"\a!"),
             (Kinds{TextNotKept, ArgumentOfOtherType, WhiteSpaceInFront, ControlCharacter, OtherClosingMark}));

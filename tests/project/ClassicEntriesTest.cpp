@@ -53,7 +53,7 @@ TEST(ClassicEntries, ComeInTheOrderOfTheFileAndAgainWhenTheyAreRepeated) {
 }
 
 TEST(ClassicEntries, RejectedLinesHaveTheirPlace) {
-  EXPECT_EQ(rejectedOf("\"a\" = \"1\";\n/* c */ junk\n  \"b;\n"), (Lines{"2:8  junk", "3:1   \"b;"}));
+  EXPECT_EQ(rejectedOf("\"a\" = \"1\";\n/* c */ junk\n  more\n"), (Lines{"2:8  junk", "3:1   more"}));
   EXPECT_EQ(rejectedOf("\"a\" = \"1\";\n"), Lines());
 }
 

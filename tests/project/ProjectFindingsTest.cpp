@@ -50,17 +50,17 @@ TEST_F(ProjectFindings, WhatIsMissingStandsAtItsFirstCall) {
 }
 
 TEST_F(ProjectFindings, AreThoseOfTheWantedLanguagesAndChecks) {
-  m_project.addString("Ebb tide");
+  m_project.addString("The ebb tide is here");
   m_project.addLanguage("fr");
   m_project.addLanguage("de");
-  m_project.addLanguage("it", "\"Ebb tide\" = \"Ebb tide\"");
+  m_project.addLanguage("it", "\"The ebb tide is here\" = \"The ebb tide is here\"");
   m_project.open();
   EXPECT_EQ(findings().size(), 3U);
   EXPECT_EQ(linesOf(findings({.checks = {}, .languages = {LanguageCode("fr")}})),
-            (Lines{"Main.m:1:1 error missing fr Ebb tide: There is no translation."}));
-  EXPECT_EQ(
-      linesOf(findings({.checks = {Check::Identical}, .languages = {}})),
-      (Lines{"it.lproj/Localizable.strings:1:1 info identical it Ebb tide: The translation is the source text."}));
+            (Lines{"Main.m:1:1 error missing fr The ebb tide is here: There is no translation."}));
+  EXPECT_EQ(linesOf(findings({.checks = {Check::Identical}, .languages = {}})),
+            (Lines{"it.lproj/Localizable.strings:1:1 info identical it The ebb tide is here: The translation is the "
+                   "source text."}));
 }
 
 TEST_F(ProjectFindings, AboutATextStandAtItsEntryOfWhichTheLastCounts) {
@@ -128,9 +128,9 @@ TEST_F(ProjectFindings, WhatSomebodyAcceptedCountsAgainWhenATextChanges) {
 
 TEST_F(ProjectFindings, AreCountedByLanguage) {
   m_project.addString("%d files");
-  m_project.addString("Ebb tide");
+  m_project.addString("The ebb tide is here");
   m_project.addLanguage("de", "\"%d files\" = \" Dateien\";\n");
-  m_project.addLanguage("it", "\"%d files\" = \"%d file\";\n\"Ebb tide\" = \"Ebb tide\";\n");
+  m_project.addLanguage("it", "\"%d files\" = \"%d file\";\n\"The ebb tide is here\" = \"The ebb tide is here\";\n");
   m_project.open();
   const auto counts = countsByLanguage(findings());
   EXPECT_EQ(counts, (std::map<std::string, FindingCounts>{{"de", {2, 1, 0}}, {"it", {0, 0, 1}}}));

@@ -1,0 +1,2 @@
+NSLocalizedString(@"%d of %d", @"Place and count");
+NSLocalizedString(@"Ebb tide", @"Menu");
