@@ -3,7 +3,7 @@
 
 # _glossmill_cli_command COMMAND: what can be typed behind it.
 _glossmill_cli_command() {
-  commands='init scan status check save export import fill set add-language prune history restore recover'
+  commands='init scan status check accept save export import fill set add-language prune history restore recover'
   case $1 in
     init)
       options=(-h --help -q --quiet --log -v --verbose)
@@ -24,6 +24,11 @@ _glossmill_cli_command() {
       options=(-h --help -q --quiet --log -v --verbose --rules --package --table -l --language --checks --fail-on --format -o --output --baseline --write-baseline)
       values=('--rules=one:classic|xcode' '--package=file' '--table=other' '-l=language' '--language=language' '--checks=list:missing|format|not-kept|malformed|duplicate|white-space|invisible|punctuation|identical|unused|inconsistent|not-literal' '--fail-on=one:error|warning|info' '--format=one:text|json|sarif|junit|github' '-o=file' '--output=file' '--baseline=file' '--write-baseline=file')
       arguments=(directory)
+      ;;
+    accept)
+      options=(-h --help -q --quiet --log -v --verbose --rules --package -l --language --table --check -n --dry-run)
+      values=('--rules=one:classic|xcode' '--package=file' '-l=language' '--language=language' '--table=other' '--check=other')
+      arguments=(directory other)
       ;;
     save)
       options=(-h --help -q --quiet --log -v --verbose --rules --package -n --dry-run --json --allow --max-dropped --wait)

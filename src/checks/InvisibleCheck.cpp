@@ -68,9 +68,7 @@ bool isPlain(std::string_view text) {
 class InvisibleSearch {
  public:
   explicit InvisibleSearch(const CheckedText& text)
-      : m_text(text.translation),
-        m_characters(charactersOf(text.translation, text.form)),
-        m_spacesArePlain(hasPlainBlanksOnly(text)) {}
+      : m_text(text.translation), m_characters(charactersOf(text.translation, text.form)), m_source(text.source) {}
 
   std::vector<Finding> findings() {
     for (std::size_t at = 0; at < m_characters.size(); ++at) look(at);
@@ -79,19 +77,16 @@ class InvisibleSearch {
   }
 
  private:
-  static bool hasPlainBlanksOnly(const CheckedText& text) {
-    const std::vector<Character> source = charactersOf(text.source, text.form);
-    const auto has = [&source](auto isWanted) {
-      return std::any_of(source.begin(), source.end(), [&](const Character& one) { return isWanted(one.value); });
-    };
-    return has([](char32_t value) { return value == U' '; }) && !has(isNoBreakSpace);
+  bool sourceHasPlainBlanksOnly() const {
+    const bool hasNoBreakSpace = m_source.find("\u00A0") != m_source.npos || m_source.find("\u202F") != m_source.npos;
+    return m_source.find(' ') != m_source.npos && !hasNoBreakSpace;
   }
 
   void look(std::size_t at) {
     const Character& character = m_characters[at];
     if (isControl(character.value)) add(FindingKind::ControlCharacter, character);
     if (character.value == 0xFFFD) add(FindingKind::ReplacementCharacter, character);
-    if (isNoBreakSpace(character.value) && m_spacesArePlain && standsBetweenWords(m_characters, at) &&
+    if (isNoBreakSpace(character.value) && standsBetweenWords(m_characters, at) && sourceHasPlainBlanksOnly() &&
         !endsSpecifier(readFormat(m_text), character.range.begin)) {
       add(FindingKind::NoBreakSpace, character);
     }
@@ -114,7 +109,7 @@ class InvisibleSearch {
 
   std::string_view m_text;
   std::vector<Character> m_characters;
-  bool m_spacesArePlain;
+  std::string_view m_source;
   std::vector<Character> m_open;  ///< beginnings of directions
   std::vector<Finding> m_findings;
 };

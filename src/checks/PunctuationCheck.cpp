@@ -62,6 +62,14 @@ std::optional<ClosingMark> closingMark(const std::vector<Character>& characters,
                      {first, last.range.begin + last.range.length - first}};
 }
 
+/// A glance that is enough for most texts: no mark stands at the end.
+bool endsWithLetter(std::string_view text) {
+  if (text.empty()) return true;
+  const auto last = static_cast<unsigned char>(text.back());
+  const unsigned small = last | 0x20U;
+  return (small >= 'a' && small <= 'z') || (last >= '0' && last <= '9');
+}
+
 std::string textAt(std::string_view text, TextRange range) {
   return std::string(text.substr(range.begin, range.length));
 }
@@ -69,6 +77,7 @@ std::string textAt(std::string_view text, TextRange range) {
 }  // namespace
 
 std::vector<Finding> punctuationFindings(const CheckedText& text) {
+  if (endsWithLetter(text.source) || endsWithLetter(text.translation)) return {};
   const auto source = closingMark(lastCharactersOf(text.source, text.form), false);
   const auto translation =
       closingMark(lastCharactersOf(text.translation, text.form), baseOfCode(text.language) == "el");

@@ -51,14 +51,31 @@ bool isFullWidthMark(char32_t character) {
   return kMarks.find(character) != std::u32string_view::npos;
 }
 
-/// True when the byte at an end of a text cannot be one of white space.
-bool isBodyByte(char byte) {
-  return byte > ' ' && byte <= '~';
+/// True when no character that begins with this byte is white space, and none is a full-width mark.
+bool beginsBody(char byte) {
+  const auto value = static_cast<unsigned char>(byte);
+  return value > ' ' && value != 0xC2 && value != 0xE2 && value != 0xE3 && value != 0xEF;
+}
+
+/// The first byte of the last character.
+char lastBeginning(std::string_view text) {
+  while (text.size() > 1 && (static_cast<unsigned char>(text.back()) & 0xC0) == 0x80) text.remove_suffix(1);
+  return text.back();
+}
+
+/// A raw text may spell a line break with a backslash; those of Unicode begin with this byte and 0x80.
+bool mayBreakLine(std::string_view text) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (text[at] == '\n' || text[at] == '\r' || text[at] == '\\') return true;
+    const bool mayBeSeparator = text[at] == '\xE2' && at + 2 < text.size() && text[at + 1] == '\x80';
+    if (mayBeSeparator && (text[at + 2] == '\xA8' || text[at + 2] == '\xA9')) return true;
+  }
+  return false;
 }
 
 /// A glance that is enough for most texts: no white space at the ends, and no line break inside.
 bool isOneBareLine(std::string_view text) {
-  return isBodyByte(text.front()) && isBodyByte(text.back()) && text.find_first_of("\n\r\\\xE2") == text.npos;
+  return beginsBody(text.front()) && beginsBody(lastBeginning(text)) && !mayBreakLine(text);
 }
 
 TextRange rangeOf(const Characters& characters, std::size_t begin, std::size_t end) {

@@ -17,10 +17,6 @@ bool holds(const List& list, const Item& item) {
   return std::find(list.begin(), list.end(), item) != list.end();
 }
 
-std::string_view codeOf(LanguageCode language) {
-  return language.text();
-}
-
 std::uint32_t rejectedCalls(const FileFindings& file) {
   return std::accumulate(file.rejectedCalls.begin(), file.rejectedCalls.end(), std::uint32_t{0});
 }
@@ -82,21 +78,32 @@ double FindingsRun::progress() const {
 
 void FindingsRun::findInSlice(const Slice& slice) {
   const CheckedLanguage& language = m_project.languages[slice.language];
-  for (std::size_t row = slice.begin; row < slice.end; ++row) findInRow(language, row);
+  const std::string_view code = language.code.text();
+  for (std::size_t row = slice.begin; row < slice.end; ++row) findInRow(language, code, row);
   if (slice.end == m_project.records.size()) findInconsistent(language);
 }
 
-void FindingsRun::findInRow(const CheckedLanguage& language, std::size_t row) {
+void FindingsRun::findInRow(const CheckedLanguage& language, std::string_view code, std::size_t row) {
   const LocalizeString& record = *m_project.records[row];
   const StoredText translation = language.translations[row];
   const CheckedRow checked{record,
                            m_sources->of(row),
                            translation ? std::optional(translation.view()) : std::nullopt,
-                           codeOf(language.code),
-                           codeOf(m_sources->languageOf(row)),
+                           code,
+                           baseCodeOf(row),
                            m_project.form(),
                            translationsOf(m_project, row)};
   for (Finding& finding : rowFindings(checked, m_policy)) add(std::move(finding), language, row);
+}
+
+/// Rows that follow one another mostly have one.
+std::string_view FindingsRun::baseCodeOf(std::size_t row) {
+  const LanguageCode language = m_sources->languageOf(row);
+  if (m_baseCode.empty() || language != m_base) {
+    m_base = language;
+    m_baseCode = language.text();
+  }
+  return m_baseCode;
 }
 
 void FindingsRun::findInconsistent(const CheckedLanguage& language) {

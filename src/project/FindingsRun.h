@@ -50,7 +50,8 @@ class FindingsRun {
   bool counts(LanguageCode language, std::string_view table) const;
   void listSlices();
   void findInSlice(const Slice& slice);
-  void findInRow(const CheckedLanguage& language, std::size_t row);
+  void findInRow(const CheckedLanguage& language, std::string_view code, std::size_t row);
+  std::string_view baseCodeOf(std::size_t row);
   void findInconsistent(const CheckedLanguage& language);
   void add(Finding finding, const CheckedLanguage& language, std::size_t row);
   void listFiles();
@@ -64,6 +65,8 @@ class FindingsRun {
   const CheckPolicy m_policy;
   FindingPlaces m_places;
   std::optional<SourceTexts> m_sources;  ///< from the first step on
+  LanguageCode m_base;                   ///< of the row that was looked at last
+  std::string_view m_baseCode;           ///< the same
   SameSources m_sameSources;
   std::vector<Slice> m_slices;
   std::size_t m_nextSlice = 0;
