@@ -7,8 +7,8 @@
 
 #include "model/Problem.h"
 #include "platform/CancelFlag.h"
-#include "xcode/FolderListings.h"
 #include "text/PathGlobs.h"
+#include "xcode/FolderListings.h"
 #include "xcode/ProjectFile.h"
 
 namespace glossmill {
