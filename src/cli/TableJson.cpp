@@ -28,6 +28,16 @@ Json tableJson(const ProjectSession& session, const StringsTable& table) {
   return {{"id", table.id}, {"name", table.name}, {"directory", directory}, {"files", std::move(files)}};
 }
 
+Json catalogJson(const CatalogRow& row) {
+  Json states = Json::object();
+  for (const auto& [language, state] : row.states) states[language.text()] = nameOfState(state);
+  const Json extraction = row.extractionState.empty() ? Json() : Json(row.extractionState);
+  return {{"key", row.key},
+          {"extractionState", extraction},
+          {"shouldTranslate", row.shouldTranslate},
+          {"states", std::move(states)}};
+}
+
 Json problemJson(const ProjectSession& session, const Problem& problem) {
   return {{"file", pathFromProject(session, problem.file)},
           {"line", numberOrNull(problem.line)},
@@ -58,6 +68,7 @@ void addTableRow(const ProjectSession& session, const TableRow& row, Json& strin
   string["source"] = row.sourceText ? Json(row.sourceText.view()) : Json();
   string["places"] = std::move(places);
   string["unused"] = row.isUnused;
+  if (row.catalog) string["catalog"] = catalogJson(*row.catalog);
 }
 
 }  // namespace glossmill

@@ -9,10 +9,10 @@ namespace glossmill {
 namespace {
 
 /// Nothing where nobody wants a translation, or nobody knows what is to be translated.
-std::optional<std::string> textToFillIn(const LocalizeString& record) {
+std::optional<std::string> textToFillIn(const LocalizeString& record, LanguageCode language) {
   const TableRow* row = record.tableRow();
   if (!row) return record.name();
-  const bool isKnown = row->isWanted && !row->isUnused && row->sourceText && !row->sourceText.view().empty();
+  const bool isKnown = row->isWantedIn(language) && !row->isUnused && row->sourceText && !row->sourceText.view().empty();
   return isKnown ? std::optional(std::string(row->sourceText.view())) : std::nullopt;
 }
 
@@ -20,7 +20,7 @@ std::optional<std::string> textToFillIn(const LocalizeString& record) {
 
 std::optional<Edit> fillFromKey(const std::shared_ptr<LocalizeString>& record, LanguageCode language) {
   if (record->languagesDict().contains(language)) return std::nullopt;
-  std::optional<std::string> text = textToFillIn(*record);
+  std::optional<std::string> text = textToFillIn(*record, language);
   return text ? std::optional(editOf(record, language, std::move(text))) : std::nullopt;
 }
 

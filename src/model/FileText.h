@@ -15,8 +15,9 @@ namespace glossmill {
 /// What one file is to hold after a save.
 struct FileText {
   FileUrl file;
-  std::string language;  ///< code, for the record of the save
-  std::string table;     ///< id, under rules that have tables; otherwise empty
+  std::string language;                     ///< code, for the record of the save
+  std::vector<std::string> otherLanguages;  ///< codes of those that were edited in the same file
+  std::string table;                        ///< id, under rules that have tables; otherwise empty
   /// Makes the bytes, each time from the start; nothing: the file is to be taken away.
   std::function<BytePieces()> bytes;
   std::optional<std::uint64_t> entriesBefore;  ///< nothing: unknown

@@ -32,15 +32,19 @@ std::string LocalizeString::comment() const {
 
 bool LocalizeString::isMissing(LanguageCode language) const {
   if (!m_tableRow) return !m_languagesDict.contains(language);
-  return m_tableRow->isWanted && m_languagesDict.find(language).value_or("").empty();
+  return m_tableRow->isWantedIn(language) && m_languagesDict.find(language).value_or("").empty();
 }
 
 /// Every entry is of one of the project's languages.
 std::int64_t LocalizeString::missingIn(const ProjectContext& project) const {
   auto present = static_cast<std::int64_t>(m_languagesDict.count());
-  if (m_tableRow && !m_tableRow->isWanted) return 0;
-  if (m_tableRow) m_languagesDict.each([&present](LanguageCode, std::string_view text) { present -= text.empty(); });
-  return project.totalLanguages() - present;
+  if (!m_tableRow) return project.totalLanguages() - present;
+  if (!m_tableRow->isWanted) return 0;
+  m_languagesDict.each([this, &present](LanguageCode language, std::string_view text) {
+    present -= text.empty() || !m_tableRow->isWantedIn(language) ? 1 : 0;
+  });
+  const std::size_t unneeded = m_tableRow->catalog ? m_tableRow->catalog->unneeded.size() : 0;
+  return project.totalLanguages() - static_cast<std::int64_t>(unneeded) - present;
 }
 
 Status LocalizeString::status(const ProjectContext* project) const {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "model/CatalogRow.h"
 #include "model/StringsTable.h"
 #include "model/TextArena.h"
 #include "platform/FileUrl.h"
@@ -25,6 +26,10 @@ struct TableRow {
                                               ///< of the string's translations
   bool isUnused = false;                      ///< nothing in the sources holds the key
   bool isWanted = true;                       ///< a missing translation counts as missing, and may be filled
+  std::shared_ptr<const CatalogRow> catalog;  ///< null but for the rows of string catalogs
+
+  /// The same for one language.
+  bool isWantedIn(LanguageCode language) const { return isWanted && (!catalog || catalog->isNeededIn(language)); }
 };
 
 }  // namespace glossmill

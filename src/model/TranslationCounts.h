@@ -24,8 +24,9 @@ class TranslationCounts {
   void countRow(const LocalizeString& record);
 
   bool m_valid = false;
-  std::size_t m_wanted = 0;            ///< records of which every language is to have a translation
-  std::vector<std::size_t> m_present;  ///< how many of these have one, by code number
+  std::size_t m_wanted = 0;             ///< records of which every language is to have a translation
+  std::vector<std::size_t> m_present;   ///< how many of these have one, by code number
+  std::vector<std::size_t> m_unneeded;  ///< how many of them the language has no need of, by code number
 };
 
 }  // namespace glossmill

@@ -18,8 +18,7 @@ std::optional<std::string> nameOfLanguage(const LanguageArray& languages, const 
 }
 
 /// A table has one more file.
-void noteSavedFile(const StringsTables& tables, const FileText& text) {
-  const LanguageCode language(text.language);
+void noteSavedFile(const StringsTables& tables, const FileText& text, LanguageCode language) {
   for (const std::shared_ptr<StringsTable>& table : tables) {
     if (table->id == text.table && !table->find(language)) table->addFile({text.file, language, false, {}, false});
   }
@@ -84,8 +83,12 @@ void ProjectWindowController::rememberSave(const std::vector<FileText>& plan, co
     m_lastSave.languages.push_back({text.language, text.file, result.files[at], before, text.entriesAfter});
     if (m_options.pretendsToSave || !result.files[at].isWritten()) continue;
     m_readFiles.set(text.file, {result.files[at].stamp, text.entriesAfter});
-    m_edited.removeSaved(text.table, LanguageCode(text.language));
-    noteSavedFile(m_tables, text);
+    std::vector<std::string> codes = text.otherLanguages;
+    codes.push_back(text.language);
+    for (const std::string& code : codes) {
+      m_edited.removeSaved(text.table, LanguageCode(code));
+      noteSavedFile(m_tables, text, LanguageCode(code));
+    }
   }
 }
 

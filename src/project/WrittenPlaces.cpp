@@ -12,6 +12,7 @@ WrittenPlaces::WrittenPlaces(const std::vector<FileText>& plan, const std::vecto
   for (std::size_t at = 0; at < plan.size(); ++at) {
     std::set<Place>& places = outcomes[at].isWritten() ? m_written : m_failed;
     places.emplace(plan[at].table, plan[at].language);
+    for (const std::string& language : plan[at].otherLanguages) places.emplace(plan[at].table, language);
   }
   m_records.add(records);
 }

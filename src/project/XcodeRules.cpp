@@ -1,5 +1,8 @@
 #include "project/XcodeRules.h"
 
+#include <utility>
+
+#include "xcode/CatalogSave.h"
 #include "xcode/StringsSave.h"
 #include "xcode/XcodeScan.h"
 
@@ -17,7 +20,9 @@ ScanEnd XcodeRules::readStringsFiles(const ScanInput& input, ScanResult& result)
 }
 
 std::vector<FileText> XcodeRules::planSave(const SaveInput& input) const {
-  return planStringsSave(input);
+  std::vector<FileText> plan = planStringsSave(input);
+  for (FileText& catalog : planCatalogSave(input)) plan.push_back(std::move(catalog));
+  return plan;
 }
 
 bool XcodeRules::marksChanged(EditKind, const Edit&) const {

@@ -38,7 +38,7 @@ constexpr Group kGroups[] = {
 /// For fractions or millions only.
 constexpr std::string_view kRareMany = " br ca cs es fr gv it lld lt pt scn sk vec ";
 
-bool holds(std::string_view languages, std::string_view language) {
+bool isListed(std::string_view languages, std::string_view language) {
   return languages.find(" " + std::string(language) + " ") != std::string_view::npos;
 }
 
@@ -47,8 +47,9 @@ std::string_view withoutRegion(std::string_view language) {
 }
 
 std::string_view lettersOf(std::string_view language) {
-  const auto* const found = std::find_if(std::begin(kGroups), std::end(kGroups),
-                                         [language](const Group& group) { return holds(group.languages, language); });
+  const auto* const found = std::find_if(std::begin(kGroups), std::end(kGroups), [language](const Group& group) {
+    return isListed(group.languages, language);
+  });
   return found == std::end(kGroups) ? std::string_view("?") : found->letters;
 }
 
@@ -71,7 +72,7 @@ std::vector<std::string_view> pluralCategories(std::string_view language) {
 
 bool mayHavePluralCategory(std::string_view language, std::string_view category) {
   if (category == "zero") return true;
-  if (category == "many" && holds(kRareMany, withoutRegion(language))) return true;
+  if (category == "many" && isListed(kRareMany, withoutRegion(language))) return true;
   const std::vector<std::string_view> categories = pluralCategories(language);
   return categories.empty() || std::find(categories.begin(), categories.end(), category) != categories.end();
 }

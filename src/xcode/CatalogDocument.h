@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
+#include "model/Variation.h"
 #include "text/DecodedFile.h"
 #include "xcode/SyntaxError.h"
 #include "xcode/ValueTree.h"
-#include "xcode/Variation.h"
 
 namespace glossmill {
 

@@ -32,7 +32,7 @@ TreePath languagePath(const std::string& key, const std::string& language) {
   return path;
 }
 
-TreePath joined(TreePath path, std::string_view name) {
+TreePath below(TreePath path, std::string_view name) {
   path.emplace_back(name);
   return path;
 }
@@ -86,13 +86,13 @@ Outcome CatalogEditor::apply(const CatalogEdit& edit) {
 }
 
 Outcome CatalogEditor::write(const CatalogEdit& edit, const TreePath& unit) {
-  const TreePath valuePath = joined(unit, kValueName);
+  const TreePath valuePath = below(unit, kValueName);
   const bool isNew = !m_editor.holds(unit);
   const bool isSame = !isNew && m_editor.textAt(valuePath) == edit.value;
   if (isNew && !m_editor.holds(keyPath(edit.key))) addKey(edit);
   bool isDone = isSame || m_editor.setText(valuePath, *edit.value);
   const std::optional<std::string> state = edit.state || isSame ? edit.state : std::optional<std::string>(kEditedState);
-  const TreePath statePath = joined(unit, kStateName);
+  const TreePath statePath = below(unit, kStateName);
   if (isDone && state && m_editor.textAt(statePath) != state) isDone = m_editor.setText(statePath, *state);
   if (!isDone) {
     return Error{formatText("“%@” has no room for this text in the language %@.", {edit.key, edit.language})};
@@ -102,7 +102,7 @@ Outcome CatalogEditor::write(const CatalogEdit& edit, const TreePath& unit) {
 }
 
 void CatalogEditor::addKey(const CatalogEdit& edit) {
-  if (!edit.comment.empty()) m_editor.setText(joined(keyPath(edit.key), kCommentName), edit.comment);
+  if (!edit.comment.empty()) m_editor.setText(below(keyPath(edit.key), kCommentName), edit.comment);
 }
 
 /// A part says beside its texts which argument it is, and of which form: as it does in the source language.
@@ -117,7 +117,7 @@ void CatalogEditor::copyParts(const CatalogEdit& edit) {
     for (const std::string& name : source) part = m_document.tree().member(part, name);
     m_document.tree().eachMember(part, [&](ValueTree::Number member) {
       if (m_document.tree().isObject(member)) return;
-      m_editor.setSpelled(joined(path, m_document.tree().nameOf(member)),
+      m_editor.setSpelled(below(path, m_document.tree().nameOf(member)),
                           std::string(m_document.tree().spelled(member)));
     });
   }
@@ -125,8 +125,8 @@ void CatalogEditor::copyParts(const CatalogEdit& edit) {
 
 void CatalogEditor::removeStaleKey(const std::string& key) {
   const TreePath path = keyPath(key);
-  if (m_editor.textAt(joined(path, kExtractionStateName)) != "stale") return;
-  if (!m_editor.holds(joined(path, kLocalizationsName))) m_editor.remove(path, 1);
+  if (m_editor.textAt(below(path, kExtractionStateName)) != "stale") return;
+  if (!m_editor.holds(below(path, kLocalizationsName))) m_editor.remove(path, 1);
 }
 
 /// One text for all counts and devices, and variations of it, cannot stand beside one another.
@@ -134,7 +134,7 @@ Outcome CatalogEditor::check(const CatalogEdit& edit) const {
   if (!edit.value) return Done{};
   TreePath path = languagePath(edit.key, edit.language);
   for (std::size_t step = 0; step <= edit.variation.size(); ++step) {
-    if (m_editor.holds(joined(path, kUnitName)) && m_editor.holds(joined(path, kVariationsName))) {
+    if (m_editor.holds(below(path, kUnitName)) && m_editor.holds(below(path, kVariationsName))) {
       return Error{
           formatText("“%@” cannot have one text and variations of it in the language %@: one of them has to "
                      "be cleared.",

@@ -9,7 +9,7 @@ namespace glossmill {
 
 namespace {
 
-bool isLetter(char character) {
+bool isAsciiLetter(char character) {
   const char lower = static_cast<char>(character | 0x20);
   return lower >= 'a' && lower <= 'z';
 }
@@ -17,7 +17,7 @@ bool isLetter(char character) {
 /// Signs come first, then digits, letters, and all that is not ASCII.
 int rankOf(char character) {
   if (static_cast<unsigned char>(character) >= 0x80) return 0x10000 + static_cast<unsigned char>(character);
-  if (isLetter(character)) return 0x1000 + (character | 0x20);
+  if (isAsciiLetter(character)) return 0x1000 + (character | 0x20);
   return isDigit(character) ? 0x100 + character : character;
 }
 

@@ -7,25 +7,19 @@
 
 #include "text/ByteSearch.h"
 #include "text/Utf8.h"
+#include "xcode/EscapeDigits.h"
 
 namespace glossmill {
 
 namespace {
 
-constexpr std::size_t kDigits = 4;
-constexpr std::array<std::pair<char, char>, 8> kLetters = {
+constexpr std::size_t kUnitDigits = 4;
+constexpr std::array<std::pair<char, char>, 8> kJsonLetters = {
     {{'"', '"'}, {'\\', '\\'}, {'/', '/'}, {'b', '\b'}, {'f', '\f'}, {'n', '\n'}, {'r', '\r'}, {'t', '\t'}}};
-
-/// 16 or more when it is no digit.
-unsigned digitValue(char digit) {
-  if (digit >= '0' && digit <= '9') return static_cast<unsigned>(digit - '0');
-  const char lower = static_cast<char>(digit | 0x20);
-  return lower >= 'a' && lower <= 'f' ? static_cast<unsigned>(lower - 'a' + 10) : 16;
-}
 
 char32_t unitAt(std::string_view text, std::size_t at) {
   char32_t unit = 0;
-  for (const char digit : text.substr(at, kDigits)) unit = unit * 16 + digitValue(digit);
+  for (const char digit : text.substr(at, kUnitDigits)) unit = unit * 16 + digitValue(digit, 16).value_or(0);
   return unit;
 }
 
@@ -39,7 +33,7 @@ bool isSecondHalf(char32_t unit) {
 
 /// Reads the number behind "\u" at `at`, with the second half of a pair where there is one, and moves behind it.
 char32_t takeNumbered(std::string_view spelled, std::size_t& at) {
-  constexpr std::size_t kEscape = 2 + kDigits;
+  constexpr std::size_t kEscape = 2 + kUnitDigits;
   const char32_t unit = unitAt(spelled, at + 2);
   at += kEscape;
   if (!isFirstHalf(unit)) return isSecondHalf(unit) ? 0xFFFD : unit;
@@ -51,16 +45,16 @@ char32_t takeNumbered(std::string_view spelled, std::size_t& at) {
 }
 
 char letterOf(char spelled) {
-  const auto* const found =
-      std::find_if(kLetters.begin(), kLetters.end(), [spelled](const auto& pair) { return pair.first == spelled; });
-  return found == kLetters.end() ? '\0' : found->second;
+  const auto* const found = std::find_if(kJsonLetters.begin(), kJsonLetters.end(),
+                                         [spelled](const auto& pair) { return pair.first == spelled; });
+  return found == kJsonLetters.end() ? '\0' : found->second;
 }
 
 void appendEscaped(std::string& text, char byte) {
   constexpr std::string_view kHex = "0123456789abcdef";
   const auto* const found =
-      std::find_if(kLetters.begin(), kLetters.end(), [byte](const auto& pair) { return pair.second == byte; });
-  if (found != kLetters.end()) {
+      std::find_if(kJsonLetters.begin(), kJsonLetters.end(), [byte](const auto& pair) { return pair.second == byte; });
+  if (found != kJsonLetters.end()) {
     text += '\\';
     text += found->first;
     return;
@@ -76,10 +70,11 @@ void appendEscaped(std::string& text, char byte) {
 std::size_t endOfJsonEscape(std::string_view text, std::size_t at) {
   if (at + 1 >= text.size()) return at;
   if (letterOf(text[at + 1]) != '\0') return at + 2;
-  if (text[at + 1] != 'u' || text.size() - at < 2 + kDigits) return at;
-  const std::string_view digits = text.substr(at + 2, kDigits);
-  const bool areDigits = std::all_of(digits.begin(), digits.end(), [](char digit) { return digitValue(digit) < 16; });
-  return areDigits ? at + 2 + kDigits : at;
+  if (text[at + 1] != 'u' || text.size() - at < 2 + kUnitDigits) return at;
+  const std::string_view digits = text.substr(at + 2, kUnitDigits);
+  const bool areDigits =
+      std::all_of(digits.begin(), digits.end(), [](char digit) { return digitValue(digit, 16).has_value(); });
+  return areDigits ? at + 2 + kUnitDigits : at;
 }
 
 std::string unescapeJson(std::string_view spelled) {

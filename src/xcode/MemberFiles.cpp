@@ -11,12 +11,12 @@ namespace glossmill {
 
 namespace {
 
-enum class MemberSort { Source, Strings, Document, Unread, None };
+enum class MemberSort { Source, Strings, Document, Catalog, Unread, None };
 
 constexpr std::string_view kHeaderExtensions[] = {"h", "hh", "hpp", "pch"};
 constexpr std::string_view kSourceExtensions[] = {"m", "mm", "c", "cc", "cpp", "cxx", "h", "hh", "hpp", "pch", "swift"};
 constexpr std::string_view kDocumentExtensions[] = {"xib", "storyboard", "plist"};
-constexpr std::string_view kUnreadExtensions[] = {"stringsdict", "xcstrings"};
+constexpr std::string_view kUnreadExtensions[] = {"stringsdict"};
 
 template <std::size_t kCount>
 bool holdsExtension(const std::string_view (&extensions)[kCount], std::string_view extension) {
@@ -28,6 +28,7 @@ MemberSort sortOf(std::string_view path) {
   if (extension == "strings") return directoryOf(path).ends_with(".lproj") ? MemberSort::Strings : MemberSort::None;
   if (holdsExtension(kSourceExtensions, extension)) return MemberSort::Source;
   if (holdsExtension(kDocumentExtensions, extension)) return MemberSort::Document;
+  if (extension == "xcstrings") return MemberSort::Catalog;
   return holdsExtension(kUnreadExtensions, extension) ? MemberSort::Unread : MemberSort::None;
 }
 
@@ -82,7 +83,9 @@ class MemberCollector {
     for (const SynchronizedFolder& folder : package.file.folders) addSynchronized(folder);
   }
 
-  MemberFiles finish() { return {m_lists[0].finish(), m_lists[1].finish(), m_lists[2].finish(), m_lists[3].finish()}; }
+  MemberFiles finish() {
+    return {m_lists[0].finish(), m_lists[1].finish(), m_lists[2].finish(), m_lists[3].finish(), m_lists[4].finish()};
+  }
 
  private:
   void addFile(const ProjectFile::File& file) {
@@ -102,7 +105,8 @@ class MemberCollector {
     const Mention mention{file.encoding, m_package->file.targetsOf(file, BuildPhase::Resources)};
     FolderWalk(m_input.folders, FolderKinds::Bundles).eachFile(path, [this, &mention](const std::string& inside) {
       const MemberSort sort = sortOf(inside);
-      if (sort == MemberSort::Strings || sort == MemberSort::Unread) add(inside, mention);
+      const bool holdsTexts = sort == MemberSort::Strings || sort == MemberSort::Catalog || sort == MemberSort::Unread;
+      if (holdsTexts) add(inside, mention);
     });
   }
 
@@ -139,7 +143,9 @@ class MemberCollector {
 
   void reportMissing(const std::string& path, MemberSort sort) {
     const std::string_view below = pathBelowRoot(m_input.folders.root(), path);
-    if ((sort != MemberSort::Source && sort != MemberSort::Strings) || m_input.excluded.take(below)) return;
+    if ((sort != MemberSort::Source && sort != MemberSort::Strings && sort != MemberSort::Catalog) ||
+        m_input.excluded.take(below))
+      return;
     m_report({FileUrl(pathInside(m_package->path, "project.pbxproj")), 0, 0, "file-missing",
               "A file that it lists does not exist: " + std::string(below)});
   }
@@ -148,7 +154,7 @@ class MemberCollector {
   const std::function<void(Problem)>& m_report;
   const XcodePackage* m_package = nullptr;
   std::uint32_t m_number = 0;
-  MemberList m_lists[4];  ///< by MemberSort
+  MemberList m_lists[5];  ///< by MemberSort
 };
 
 }  // namespace

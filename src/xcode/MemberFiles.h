@@ -22,7 +22,8 @@ struct MemberFiles {
   std::vector<MemberFile> sources;
   std::vector<MemberFile> strings;    ///< that lie in an `.lproj`
   std::vector<MemberFile> documents;  ///< in XML: interface files and property lists, which may hold keys
-  std::vector<MemberFile> unread;     ///< string catalogs and the like, which nothing here reads
+  std::vector<MemberFile> catalogs;   ///< string catalogs
+  std::vector<MemberFile> unread;     ///< which nothing here reads
 };
 
 /// Files that are named and do not exist are reported.

@@ -100,7 +100,8 @@ class StringsSave {
 void StringsSave::gatherEdits() {
   for (const EditedTexts::Text& text : m_input.edited.texts()) {
     const TableRow* row = text.record->tableRow();
-    const bool hasPlace = row && !row->table->directory.empty();
+    const bool isStrings = row && row->table->format == StringsTable::Format::Strings;
+    const bool hasPlace = isStrings && !row->table->directory.empty();
     if (!hasPlace || !isToBeSaved(m_input.languages, text.language)) continue;
     EditedFile& file = m_edited[placeOf(*row->table, text.language)];
     file.table = row->table;

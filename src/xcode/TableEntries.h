@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "model/CatalogRow.h"
 #include "model/KeyIndex.h"
 #include "model/Problem.h"
 #include "model/ProjectRules.h"
@@ -16,11 +17,19 @@
 
 namespace glossmill {
 
+/// What a string catalog says of one of its rows.
+struct CatalogEntry {
+  std::shared_ptr<CatalogRow> row;
+  StoredText sourceText;      ///< of the row in the source language
+  bool sourceVaries = false;  ///< the key has variations in the source language, and no text for all of them
+};
+
 /// What the files of one table hold.
 struct TableEntries {
   KeyIndex keys;  ///< in the order in which the files hold them, the development one first
   std::vector<std::vector<StoredText>> columns;  ///< by file and key; as long as the last key of the file needs
   std::vector<StoredText> comments;              ///< by key: what stands in front of it in the first file that says so
+  std::vector<CatalogEntry> catalog;  ///< by key, for a string catalog: variations follow the text of their key
 
   /// No text where the file lacks the key.
   StoredText find(std::size_t file, KeyIndex::Number key) const {

@@ -10,6 +10,8 @@ namespace {
 
 constexpr std::string_view kLanguageSuffix = ".lproj";
 constexpr std::string_view kStringsSuffix = ".strings";
+constexpr std::string_view kCatalogSuffix = ".xcstrings";
+constexpr std::string_view kAllLanguages = "mul";  // names the directory of catalogs
 
 /// A strings file taken apart: /p/en.lproj/Boats.strings.
 struct StringsPath {
@@ -40,12 +42,13 @@ class TableCollector {
  public:
   explicit TableCollector(const TableInput& input) : m_input(input) {}
 
-  TableList collect(const std::vector<MemberFile>& strings) {
+  TableList collect(const std::vector<MemberFile>& strings, const std::vector<MemberFile>& catalogs) {
     for (const MemberFile& file : strings) {
       StringsPath parts = takenApart(file.path);
       m_tables[{parts.directory, parts.name}][parts.language] = &file;
     }
     for (const auto& [place, members] : m_tables) addTable(place.first, place.second, members);
+    for (const MemberFile& catalog : catalogs) addCatalog(catalog);
     std::sort(m_list.tables.begin(), m_list.tables.end(),
               [](const TableList::Table& a, const TableList::Table& b) { return a.table->id < b.table->id; });
     m_list.languages.assign(m_languages.begin(), m_languages.end());
@@ -61,12 +64,11 @@ class TableCollector {
     added.table = std::make_shared<StringsTable>();
     added.table->name = name;
     added.table->directory = FileUrl(directory);
-    const bool isRoot = directory == m_input.folders.root();
-    added.table->id = isRoot ? name : pathInside(pathBelowRoot(m_input.folders.root(), directory), name);
+    added.table->id = idOf(directory, name);
     addFiles(added, beside, members);
     added.table->development = developmentOf(*added.table, beside);
     for (const std::string& language : beside.names()) {
-      if (beside.isOwnLanguage(language)) m_languages.emplace(beside.languageOf(language));
+      if (beside.isOwnLanguage(language) && language != kAllLanguages) m_languages.emplace(beside.languageOf(language));
     }
     for (const StringsTable::File& file : added.table->files) m_languages.insert(file.language.text());
   }
@@ -98,6 +100,33 @@ class TableCollector {
     return MemberFile{std::move(path), {}, 0, {}};
   }
 
+  /// In an `.lproj`, where Xcode puts those of interface files, it stands for the directory around that.
+  void addCatalog(const MemberFile& catalog) {
+    const std::string_view folder = directoryOf(catalog.path);
+    const std::string directory(folder.ends_with(kLanguageSuffix) ? directoryOf(folder) : folder);
+    const std::string_view file = nameOfPath(catalog.path);
+    const std::string name(file.substr(0, file.size() - kCatalogSuffix.size()));
+    const bool isTaken = m_tables.contains({directory, name}) || !m_catalogs.emplace(directory, name).second;
+    const LanguageDirectories& beside = directoriesIn(directory, catalog.package);
+    TableList::Table& added = m_list.tables.emplace_back();
+    added.table = std::make_shared<StringsTable>();
+    added.table->format = StringsTable::Format::Catalog;
+    added.table->name = name;
+    added.table->directory = FileUrl(directory);
+    added.table->catalog = FileUrl(catalog.path);
+    added.table->id = idOf(directory, isTaken ? std::string(file) : name);
+    added.table->development = LanguageCode(beside.development());
+    added.targets = catalog.targets;
+    for (const std::string& language : beside.names()) {
+      if (beside.isOwnLanguage(language) && language != kAllLanguages) m_languages.emplace(beside.languageOf(language));
+    }
+  }
+
+  std::string idOf(const std::string& directory, const std::string& name) const {
+    const bool isRoot = directory == m_input.folders.root();
+    return isRoot ? name : pathInside(pathBelowRoot(m_input.folders.root(), directory), name);
+  }
+
   /// Where the development language has no file, Base holds its texts all the same.
   static LanguageCode developmentOf(const StringsTable& table, const LanguageDirectories& beside) {
     const LanguageCode development(beside.development());
@@ -125,6 +154,7 @@ class TableCollector {
 
   const TableInput& m_input;
   std::map<std::pair<std::string, std::string>, Members> m_tables;  ///< by directory and name
+  std::set<std::pair<std::string, std::string>> m_catalogs;
   std::map<std::string, LanguageDirectories> m_directories;
   std::set<std::string> m_languages;
   TableList m_list;
@@ -132,8 +162,9 @@ class TableCollector {
 
 }  // namespace
 
-TableList collectTables(const std::vector<MemberFile>& strings, const TableInput& input) {
-  return TableCollector(input).collect(strings);
+TableList collectTables(const std::vector<MemberFile>& strings, const std::vector<MemberFile>& catalogs,
+                        const TableInput& input) {
+  return TableCollector(input).collect(strings, catalogs);
 }
 
 }  // namespace glossmill

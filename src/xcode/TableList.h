@@ -33,6 +33,8 @@ struct TableInput {
 };
 
 /// Puts strings files together to tables, with those beside them in other `.lproj` directories.
-TableList collectTables(const std::vector<MemberFile>& strings, const TableInput& input);
+/// A string catalog is a table of its own, whose languages are known when it has been read.
+TableList collectTables(const std::vector<MemberFile>& strings, const std::vector<MemberFile>& catalogs,
+                        const TableInput& input);
 
 }  // namespace glossmill

@@ -55,12 +55,13 @@ void TableRows::addComment(Number key, std::string_view comment) {
 
 bool TableRows::isUnused(Number key, WholeTexts& texts) const {
   const bool isCalled = m_records[key] && m_records[key]->useCount() > 0;
+  if (const CatalogEntry* entry = catalogEntry(key)) return entry->row->extractionState == "stale" && !isCalled;
   return m_table->hasCalls && !isCalled && !texts.hold(m_entries.keys.key(key));
 }
 
 bool TableRows::hasUnused(WholeTexts& texts) const {
   for (Number key = 0; key < m_records.size(); ++key) {
-    if (isUnused(key, texts)) return true;
+    if (!catalogEntry(key) && isUnused(key, texts)) return true;
   }
   return false;
 }
@@ -68,9 +69,31 @@ bool TableRows::hasUnused(WholeTexts& texts) const {
 void TableRows::finish(WholeTexts& texts, StringArray& records) {
   for (Number key = 0; key < m_entries.keys.size(); ++key) record(key);
   for (const Number key : m_order) {
-    complete(key, texts);
-    records.push_back(std::move(m_records[key]));
+    if (isVariation(key)) continue;
+    const Number end = endOfVariations(key);
+    for (Number variation = key + 1; variation < end; ++variation) takeFromKey(variation);
+    for (Number row = key; row < end; ++row) {
+      complete(row, texts);
+      records.push_back(std::move(m_records[row]));
+    }
   }
+}
+
+/// Of those that stand below the key.
+TableRows::Number TableRows::endOfVariations(Number key) const {
+  Number end = key + 1;
+  while (isVariation(end)) ++end;
+  return end;
+}
+
+/// Who calls a key calls its variations.
+void TableRows::takeFromKey(Number key) {
+  const LocalizeString& above = *m_records[key - 1];
+  LocalizeString& record = *m_records[key];
+  record.setUseCount(above.useCount());
+  record.setCommentArray(above.commentArray());
+  record.setFilesArray(above.filesArray());
+  record.tableRow()->places = above.tableRow()->places;
 }
 
 void TableRows::complete(Number key, WholeTexts& texts) {
@@ -89,6 +112,10 @@ void TableRows::complete(Number key, WholeTexts& texts) {
   TableRow& row = *record.tableRow();
   row.isUnused = isUnused(key, texts);
   row.isWanted = !row.isUnused && (isCalled || !m_development || m_entries.find(*m_development, key));
+  if (const CatalogEntry* entry = catalogEntry(key)) {
+    row.catalog = entry->row;
+    row.isWanted = !row.isUnused && entry->row->shouldTranslate;
+  }
   row.sourceText = sourceText(key);
 }
 
@@ -97,6 +124,8 @@ StoredText TableRows::developmentText(Number key) const {
 }
 
 StoredText TableRows::sourceText(Number key) const {
+  const CatalogEntry* const entry = catalogEntry(key);
+  if (entry && (entry->sourceVaries || isVariation(key))) return entry->sourceText;
   const StoredText development = developmentText(key);
   if (development && !development.view().empty()) return development;
   if (key < m_values.size() && m_values[key]) return m_values[key];
@@ -104,7 +133,7 @@ StoredText TableRows::sourceText(Number key) const {
     const std::optional<std::string> text = interfaceText(m_entries.keys.key(key), m_entries.comments[key].view());
     if (text && !text->empty()) return m_arena->add(*text);
   }
-  return m_records[key]->useCount() > 0 ? m_arena->add(m_records[key]->name()) : StoredText();
+  return m_records[key]->useCount() > 0 || entry ? m_arena->add(m_records[key]->name()) : StoredText();
 }
 
 }  // namespace glossmill

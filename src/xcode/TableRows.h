@@ -42,6 +42,12 @@ class TableRows {
   StoredText developmentText(Number key) const;
   StoredText sourceText(Number key) const;
   void complete(Number key, WholeTexts& texts);
+  const CatalogEntry* catalogEntry(Number key) const {
+    return key < m_entries.catalog.size() ? &m_entries.catalog[key] : nullptr;
+  }
+  bool isVariation(Number key) const { return catalogEntry(key) && !catalogEntry(key)->row->variation.empty(); }
+  Number endOfVariations(Number key) const;
+  void takeFromKey(Number key);
 
   std::shared_ptr<StringsTable> m_table;
   TableEntries m_entries;

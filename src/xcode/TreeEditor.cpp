@@ -5,6 +5,7 @@
 
 #include "xcode/CatalogOrder.h"
 #include "xcode/JsonText.h"
+#include "xcode/SourceText.h"
 #include "xcode/XmlText.h"
 
 namespace glossmill {
@@ -22,14 +23,6 @@ struct TreeEditor::Item {
 };
 
 namespace {
-
-bool isSpace(char character) {
-  return character == ' ' || character == '\t' || character == '\n' || character == '\r';
-}
-
-bool endsALine(char character) {
-  return character == '\n' || character == '\r';
-}
 
 /// Where a member of this name goes among the others: where the fewest of them stand on the wrong side of it.
 template <typename Members>
@@ -186,9 +179,9 @@ void TreeEditor::write(std::string& out, const Item& item) const {
 std::string TreeEditor::indentOfLine(std::size_t at) const {
   const std::string_view text = m_tree.text();
   std::size_t begin = at;
-  while (begin > 0 && !endsALine(text[begin - 1])) --begin;
+  while (begin > 0 && !isLineEnd(text[begin - 1])) --begin;
   std::size_t end = begin;
-  while (end < at && (text[end] == ' ' || text[end] == '\t')) ++end;
+  while (end < at && isBlank(text[end])) ++end;
   return std::string(text.substr(begin, end - begin));
 }
 
@@ -197,7 +190,7 @@ std::string TreeEditor::leadOf(const ValueNode& object) const {
   const std::string_view text = m_tree.text();
   const std::size_t end = m_tree.node(object.first).member;
   std::size_t begin = end;
-  while (begin > object.inner && isSpace(text[begin - 1])) --begin;
+  while (begin > object.inner && (isBlank(text[begin - 1]) || isLineEnd(text[begin - 1]))) --begin;
   return std::string(text.substr(begin, end - begin));
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "xcode/CallTargets.h"
+#include "xcode/CatalogEntries.h"
 #include "xcode/JobsInOrder.h"
 #include "xcode/KeyHolders.h"
 #include "xcode/ProjectPaths.h"
@@ -102,8 +103,11 @@ class StringsPhase {
 
   void readTables() {
     const auto reporter = [this](Problem problem) { report(std::move(problem)); };
-    m_tables = collectTables(m_state.members.strings, {m_state.packages, m_state.folders, m_state.excluded,
-                                                       m_input.options.xcode.sourceLanguage});
+    m_tables =
+        collectTables(m_state.members.strings, m_state.members.catalogs,
+                      {m_state.packages, m_state.folders, m_state.excluded, m_input.options.xcode.sourceLanguage});
+    const std::function<void(Problem)> report = reporter;
+    CatalogReading catalogs(m_tables, m_input, report);
     const std::vector<StringsTable::File*> files = filesInOrder();
     JobsInOrder<ReadStringsFile> jobs(
         files.size(), [&](std::size_t number) { return readStringsFile(*files[number], m_input.files); },
@@ -114,8 +118,10 @@ class StringsPhase {
         });
     for (TableList::Table& table : m_tables.tables) {
       if (m_input.canceled.isSet()) return;
-      TableEntries entries = takeTable(
-          table, m_result.stringList.arena(), m_input, [&] { return jobs.next(); }, reporter);
+      TableEntries entries =
+          isCatalog(table) ? catalogs.entriesOf(table, m_result.stringList.arena())
+                           : takeTable(
+                                 table, m_result.stringList.arena(), m_input, [&] { return jobs.next(); }, reporter);
       m_rows.emplace_back(table.table, std::move(entries), m_result.stringList.sharedArena());
     }
   }
@@ -123,9 +129,28 @@ class StringsPhase {
   std::vector<StringsTable::File*> filesInOrder() const {
     std::vector<StringsTable::File*> files;
     for (const TableList::Table& table : m_tables.tables) {
+      if (isCatalog(table)) continue;
       for (const std::size_t file : readingOrder(*table.table)) files.push_back(&table.table->files[file]);
     }
     return files;
+  }
+
+  static bool isCatalog(const TableList::Table& table) { return table.table->format == StringsTable::Format::Catalog; }
+
+  /// Of a strings table and a catalog of one name in one directory those are meant that hold the key, or else the
+  /// first.
+  void dropTwins(std::vector<std::uint32_t>& numbers, std::string_view key) const {
+    for (std::size_t at = 0; at + 1 < numbers.size();) {
+      const bool areTwins =
+          m_tables.tables[numbers[at]].table->directory == m_tables.tables[numbers[at + 1]].table->directory;
+      const bool firstHolds = m_rows[numbers[at]].holdsKey(key);
+      const bool secondHolds = m_rows[numbers[at + 1]].holdsKey(key);
+      if (!areTwins || (firstHolds && secondHolds)) {
+        ++at;
+      } else {
+        numbers.erase(numbers.begin() + static_cast<std::ptrdiff_t>(secondHolds ? at : at + 1));
+      }
+    }
   }
 
   void takeCalls() {
@@ -136,10 +161,11 @@ class StringsPhase {
       if (m_input.canceled.isSet()) return;
       const std::string_view key = list.keys().key(call.key);
       const std::string_view name = list.tables().key(call.table);
-      const CallTargets::TableNumbers numbers = targets.tablesFor(
+      CallTargets::TableNumbers numbers = targets.tablesFor(
           name, m_state.members.sources[call.source], [&](const CallTargets::TableNumbers& named) -> const auto& {
             return holders.of(call, named);
           });
+      dropTwins(numbers, key);
       if (numbers.empty()) addCall(fileless(call.table, name), key, call);
       for (const std::uint32_t number : numbers) {
         addCall(number, key, call);

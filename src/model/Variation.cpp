@@ -1,4 +1,4 @@
-#include "xcode/Variation.h"
+#include "model/Variation.h"
 
 #include <utility>
 
