@@ -90,6 +90,7 @@ CatalogReading::CatalogReading(TableList& tables, const ScanInput& input, const 
   for (TableList::Table& table : tables.tables) {
     if (table.table->format != StringsTable::Format::Catalog || input.canceled.isSet()) continue;
     read(table);
+    reportTwin(table);
     languages.insert(table.table->development.text());
     for (const StringsTable::File& file : table.table->files) languages.insert(file.language.text());
   }
@@ -120,6 +121,17 @@ void CatalogReading::read(TableList::Table& table) {
     strings.addFile({file, LanguageCode(language), true, {}, hasMistake});
   }
   m_documents[&strings] = std::move(document);
+}
+
+/// Xcode takes one or the other.
+void CatalogReading::reportTwin(const TableList::Table& table) {
+  const auto isTwin = [&table](const TableList::Table& other) {
+    return other.table->format == StringsTable::Format::Strings && other.table->name == table.table->name &&
+           other.table->directory == table.table->directory;
+  };
+  if (std::none_of(m_tables.tables.begin(), m_tables.tables.end(), isTwin)) return;
+  report(table.table->catalog, {0, 0}, "catalog-and-strings",
+         "There are strings files of the same table, which Xcode does not allow; both are read");
 }
 
 TableEntries CatalogReading::entriesOf(const TableList::Table& table, TextArena& arena) {

@@ -27,6 +27,7 @@ class CatalogReading {
 
  private:
   void read(TableList::Table& table);
+  void reportTwin(const TableList::Table& table);
   void report(const FileUrl& file, TextPlace place, std::string_view kind, std::string text);
 
   TableList& m_tables;
