@@ -23,6 +23,7 @@ class TableRows {
 
   /// Those of the entries and of the calls so far.
   const KeyIndex& keys() const { return m_entries.keys; }
+  bool holdsKey(std::string_view key) const { return m_entries.keys.find(key).has_value(); }
   /// Calls come source by source.
   void addCall(std::string_view key, const CallList::Call& call, const FileUrl& source);
 
