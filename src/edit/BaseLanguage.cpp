@@ -12,7 +12,8 @@ namespace {
 std::optional<std::string> textToFillIn(const LocalizeString& record, LanguageCode language) {
   const TableRow* row = record.tableRow();
   if (!row) return record.name();
-  const bool isKnown = row->isWantedIn(language) && !row->isUnused && row->sourceText && !row->sourceText.view().empty();
+  const bool isKnown =
+      row->isWantedIn(language) && !row->isUnused && row->sourceText && !row->sourceText.view().empty();
   return isKnown ? std::optional(std::string(row->sourceText.view())) : std::nullopt;
 }
 
