@@ -124,7 +124,11 @@ void ProjectSession::sumUpScan() {
 void ProjectSession::offerOtherRules() {
   const ScanTotals totals = project().scanReport().totals();
   if (totals.rejectedCalls == 0 && totals.unmatchedEntries == 0) return;
-  m_console.message("What was left out may be read by xcode's rules: --rules xcode");
+  const bool isOneEntry = totals.unmatchedEntries == 1;
+  m_console.message(counted(totals.rejectedCalls, "call") + (totals.rejectedCalls == 1 ? " was" : " were") +
+                    " rejected, and " + std::to_string(totals.unmatchedEntries) +
+                    (isOneEntry ? " entry matches" : " entries match") +
+                    " no call; xcode's rules may read them: --rules xcode");
 }
 
 ProjectOptions ProjectSession::projectOptions() const {
