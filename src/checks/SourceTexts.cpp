@@ -79,6 +79,12 @@ std::optional<std::string_view> sourceTextOf(const LocalizeString& record, std::
   return key;
 }
 
+EachTranslation translationsOf(const LocalizeString& record) {
+  return [&record](const TakeTranslation& take) {
+    record.languagesDict().each([&take](LanguageCode language, std::string_view text) { take(language.text(), text); });
+  };
+}
+
 EachTranslation translationsOf(const CheckedProject& project, std::size_t row) {
   return [&project, row](const TakeTranslation& take) {
     for (const CheckedLanguage& language : project.languages) {

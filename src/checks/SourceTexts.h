@@ -15,6 +15,9 @@ namespace glossmill {
 std::optional<std::string_view> sourceTextOf(const LocalizeString& record, std::string_view development,
                                              const EachTranslation& translations);
 
+/// The translations of a record, which outlives it.
+EachTranslation translationsOf(const LocalizeString& record);
+
 /// Those of a row of the project, which outlives it.
 EachTranslation translationsOf(const CheckedProject& project, std::size_t row);
 

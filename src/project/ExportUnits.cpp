@@ -4,23 +4,13 @@
 
 #include "checks/FormatCheck.h"
 #include "platform/ShownPath.h"
+#include "project/DevelopmentRegion.h"
 
 namespace glossmill {
 
 namespace {
 
 constexpr std::string_view kUsualLanguage = "en";
-
-/// The value of `developmentRegion = en;`; empty where there is none.
-std::string_view developmentRegionOf(std::string_view projectFile) {
-  constexpr std::string_view kKey = "developmentRegion = ";
-  const std::size_t at = projectFile.find(kKey);
-  if (at == projectFile.npos) return {};
-  std::string_view value = projectFile.substr(at + kKey.size());
-  value = value.substr(0, std::min(value.find_first_of(";\n"), value.size()));
-  if (value.size() >= 2 && value.front() == '"' && value.back() == '"') value = value.substr(1, value.size() - 2);
-  return value;
-}
 
 std::string pathOfTableFile(const StringsTable& table, const FileUrl& project) {
   if (const StringsTable::File* file = table.find(table.development)) {
@@ -60,9 +50,9 @@ std::vector<std::string> placesOf(const LocalizeString& record, const FileUrl& p
 
 }  // namespace
 
-SourceTexts sourceTextsOf(const FileUrl& directory, const ProjectOptions& options, std::string_view projectFile,
-                          const LanguageArray& languages, const StringsTables& tables) {
-  SourceTexts sources;
+TranslatedFrom translatedFrom(const FileUrl& directory, const ProjectOptions& options, std::string_view projectFile,
+                              const LanguageArray& languages, const StringsTables& tables) {
+  TranslatedFrom sources;
   sources.directory = directory;
   std::string_view code = options.xcode.sourceLanguage;
   if (code.empty() && !tables.empty()) code = tables.front()->development.text();
@@ -74,7 +64,7 @@ SourceTexts sourceTextsOf(const FileUrl& directory, const ProjectOptions& option
   return sources;
 }
 
-std::string sourceTextOf(const LocalizeString& record, const SourceTexts& sources) {
+std::string sourceTextOf(const LocalizeString& record, const TranslatedFrom& sources) {
   if (const TableRow* row = record.tableRow()) {
     const bool isKnown = row->sourceText && !row->sourceText.view().empty();
     return isKnown ? std::string(row->sourceText.view()) : record.name();

@@ -14,7 +14,7 @@
 namespace glossmill {
 
 /// What a project says of the texts that are translated from.
-struct SourceTexts {
+struct TranslatedFrom {
   FileUrl directory;        ///< of the project
   LanguageCode language;    ///< the empty code where nobody knows it
   bool isLanguage = false;  ///< the project has texts in it, which count where strings have no source text of their own
@@ -22,15 +22,15 @@ struct SourceTexts {
 };
 
 /// `projectFile` is the text of the project file; empty where there is none.
-SourceTexts sourceTextsOf(const FileUrl& directory, const ProjectOptions& options, std::string_view projectFile,
-                          const LanguageArray& languages, const StringsTables& tables);
+TranslatedFrom translatedFrom(const FileUrl& directory, const ProjectOptions& options, std::string_view projectFile,
+                              const LanguageArray& languages, const StringsTables& tables);
 
 /// What a string is translated from: its source text, or its key.
-std::string sourceTextOf(const LocalizeString& record, const SourceTexts& sources);
+std::string sourceTextOf(const LocalizeString& record, const TranslatedFrom& sources);
 
 /// Makes units of strings.
 struct UnitMaker {
-  SourceTexts sources;
+  TranslatedFrom sources;
   std::vector<LanguageCode> languages;
   ExportScope scope = ExportScope::AllStrings;
   bool isBrief = false;  ///< only what the program's own text holds

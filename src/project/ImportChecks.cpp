@@ -5,6 +5,7 @@
 #include "checks/InvisibleCheck.h"
 #include "checks/NotKeptCheck.h"
 #include "checks/PunctuationCheck.h"
+#include "checks/SourceTexts.h"
 #include "checks/WhiteSpaceCheck.h"
 
 namespace glossmill {
@@ -13,8 +14,7 @@ namespace {
 
 using TextCheck = std::vector<Finding> (*)(const CheckedText& text);
 
-constexpr TextCheck kTextChecks[] = {formatFindings, whiteSpaceFindings, invisibleFindings, punctuationFindings,
-                                     identicalFindings};
+constexpr TextCheck kTextChecks[] = {formatFindings, whiteSpaceFindings, invisibleFindings, punctuationFindings};
 
 /// A key such as "error.title" says nothing of what its translation has to look like.
 bool isOnlyAName(const std::string& text) {
@@ -36,6 +36,7 @@ std::vector<Finding> ImportChecks::findingsOf(const ImportItem& item) const {
   for (const TextCheck check : kTextChecks) {
     for (Finding& finding : check(text)) findings.push_back(std::move(finding));
   }
+  for (Finding& finding : identicalFindings(text, translationsOf(*record))) findings.push_back(std::move(finding));
   return findings;
 }
 

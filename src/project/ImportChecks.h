@@ -12,13 +12,13 @@ namespace glossmill {
 /// Finds what is wrong with texts that come from outside, before they are taken.
 class ImportChecks {
  public:
-  ImportChecks(SourceTexts sources, RuleSet rules) : m_sources(std::move(sources)), m_rules(rules) {}
+  ImportChecks(TranslatedFrom sources, RuleSet rules) : m_sources(std::move(sources)), m_rules(rules) {}
 
   /// Nothing for a key that the project does not have.
   std::vector<Finding> findingsOf(const ImportItem& item) const;
 
  private:
-  SourceTexts m_sources;
+  TranslatedFrom m_sources;
   RuleSet m_rules;
 };
 

@@ -21,7 +21,7 @@ class NamedKeys {
   /// Reads one source; false when there is none left.
   bool step();
   std::size_t sourcesLeft() const { return m_last - m_next; }
-  bool hold(std::string_view key) const { return m_rows.count(key) > 0 || m_texts.hold(key); }
+  bool hold(std::string_view key) { return m_rows.count(key) > 0 || m_texts.hold(key); }
 
  private:
   const CheckedProject& m_project;

@@ -38,7 +38,7 @@ void ProjectWindowController::bgExportLanguage(const ExportRequest& request) {
   const std::string noText;
   const std::optional<std::string>& projectFile = projectFileData();
   maker.sources =
-      sourceTextsOf(m_projectDirectory, m_options, projectFile ? *projectFile : noText, *languagesList(), m_tables);
+      translatedFrom(m_projectDirectory, m_options, projectFile ? *projectFile : noText, *languagesList(), m_tables);
   maker.scope = request.scope;
   maker.isBrief = &format == &ownFormat();
   for (const std::shared_ptr<Language>& language : request.languages) {

@@ -78,7 +78,7 @@ void ProjectWindowController::applyImport(const ImportPlan& plan) {
 ImportChecks ProjectWindowController::importChecks() const {
   const std::string noText;
   const std::optional<std::string>& file = projectFileData();
-  return {sourceTextsOf(m_projectDirectory, m_options, file ? *file : noText, *languagesList(), m_tables),
+  return {translatedFrom(m_projectDirectory, m_options, file ? *file : noText, *languagesList(), m_tables),
           m_options.rules};
 }
 

@@ -13,16 +13,6 @@
 
 namespace glossmill {
 
-namespace {
-
-EachTranslation translationsOf(const LocalizeString& record) {
-  return [&record](const TakeTranslation& take) {
-    record.languagesDict().each([&take](LanguageCode language, std::string_view text) { take(language.text(), text); });
-  };
-}
-
-}  // namespace
-
 RowChecks::RowChecks(const ProjectWindowController& project, const CheckSettings& settings)
     : m_project(project), m_policy(settings, {}), m_sourceLanguage(sourceLanguageOf(project, settings)) {}
 
