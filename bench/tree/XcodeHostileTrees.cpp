@@ -8,7 +8,7 @@ namespace glossmill::bench {
 namespace {
 
 constexpr std::string_view kStrings = "/* Title */\n\"Open\" = \"Open\";\n";
-constexpr std::string_view kCall = "  self.title = NSLocalizedString(@\"Open\", @\"Title\");\n";
+constexpr std::string_view kPlainCall = "  self.title = NSLocalizedString(@\"Open\", @\"Title\");\n";
 constexpr std::string_view kProject =
     "P = {isa = PBXProject; mainGroup = G0; targets = (); developmentRegion = en; };\n";
 
@@ -45,7 +45,7 @@ void writeSources(TreeWriter& tree, std::string_view source, std::string_view he
 }  // namespace
 
 void writeLiterals(TreeWriter& tree, std::size_t literals) {
-  std::string text(kCall);
+  std::string text(kPlainCall);
   for (std::size_t literal = 0; literal < literals; ++literal) {
     switch (literal % 4) {
       case 0:
@@ -69,7 +69,7 @@ void writeGroups(TreeWriter& tree, std::size_t groups) {
     objects += group("G" + std::to_string(number), inside);
   }
   writeProjectFile(tree, objects + reference("M", "Main.m") + reference("E", "en.lproj/Localizable.strings"));
-  tree.write("Main.m", kCall);
+  tree.write("Main.m", kPlainCall);
   tree.write("en.lproj/Localizable.strings", kStrings);
 }
 
@@ -114,7 +114,7 @@ void writeRepeatedKeys(TreeWriter& tree, std::size_t entries) {
   for (std::size_t entry = 0; entry < entries; ++entry) {
     text += "\"" + numbered("key ", entry / 2) + "\" = \"" + std::to_string(entry) + "\";\n";
   }
-  writeSources(tree, kCall, "", text);
+  writeSources(tree, kPlainCall, "", text);
 }
 
 }  // namespace glossmill::bench

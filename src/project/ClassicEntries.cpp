@@ -86,8 +86,24 @@ void setPlace(FileEntry& entry, TextPlace place) {
 
 }  // namespace
 
-/// A first reading, which knows no key, reports each entry with its line; a second one, which knows them all, gives the
-/// values in the same order.
+/// The lines on which the parser rejects what it reads, in their order.
+class RejectedLines {
+ public:
+  explicit RejectedLines(const StringsFileContent& content) : m_content(content) {}
+
+  /// To be asked in the order of the lines.
+  bool hold(std::int64_t line) {
+    while (m_next < m_content.diagnostics.size() && m_content.diagnostics[m_next].line < line) ++m_next;
+    return m_next < m_content.diagnostics.size() && m_content.diagnostics[m_next].line == line;
+  }
+
+ private:
+  const StringsFileContent& m_content;
+  std::size_t m_next = 0;
+};
+
+/// A first reading, which knows no key, reports each key with its line; a second one, which knows them all, gives the
+/// values in the same order, and rejects the lines that have none.
 FileEntries classicEntries(std::string_view text) {
   FileEntries file;
   TextArena unused;
@@ -99,10 +115,12 @@ FileEntries classicEntries(std::string_view text) {
   const StringsFileContent known = parsed(text, index, file.texts);
   const std::vector<LineOrigin> origins = LineOrigins(text).find();
   PlaceCounter counter(text);
+  RejectedLines rejected(known);
   for (const StringsFileDiagnostic& line : unknown.diagnostics) {
-    const bool isEntry = line.kind == StringsFileDiagnostic::Kind::NoMatch;
+    const bool hasKey = line.kind == StringsFileDiagnostic::Kind::NoMatch;
+    const bool isEntry = !rejected.hold(line.line);
     const LineOrigin& origin = origins[static_cast<std::size_t>(line.line) - 1];
-    const std::size_t place = isEntry ? origin.firstQuote : origin.firstCharacter;
+    const std::size_t place = hasKey ? origin.firstQuote : origin.firstCharacter;
     FileEntry entry{file.texts.add(line.text.view()), {}, 0, 0};
     setPlace(entry, counter.at(place == kNoPlace ? 0 : place));
     if (isEntry) entry.value = known.entries[file.entries.size()].value;

@@ -57,6 +57,12 @@ TEST(ClassicEntries, RejectedLinesHaveTheirPlace) {
   EXPECT_EQ(rejectedOf("\"a\" = \"1\";\n"), Lines());
 }
 
+TEST(ClassicEntries, AKeyWithoutAValueIsARejectedLineAndShiftsNoValues) {
+  constexpr std::string_view kText = "\"a\" = \"1\";\n\"b\" \"2\";\n\"c\" = \"3\";\n\"d\" = 4;\n";
+  EXPECT_EQ(entriesOf(kText), (Lines{"1:1 a=1", "3:1 c=3"}));
+  EXPECT_EQ(rejectedOf(kText), (Lines{"2:1 b", "4:1 d"}));
+}
+
 /// Each entry's place holds its key between quotes, whatever stands around.
 TEST(ClassicEntries, PlacesLeadToTheKeyInAnyMixOfComments) {
   std::mt19937 random(3);

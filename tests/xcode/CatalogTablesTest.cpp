@@ -23,7 +23,7 @@ constexpr std::string_view kProjectFile = R"({ objects = {
   C = { isa = PBXFileReference; path = Localizable.xcstrings; };
 }; rootObject = P; })";
 
-constexpr std::string_view kCatalog = R"({
+constexpr std::string_view kTablesCatalog = R"({
   "sourceLanguage" : "en",
   "strings" : {
     "%lld boats" : {
@@ -84,7 +84,7 @@ class CatalogTablesTest : public testing::Test, private ScanListener {
     m_files.addFile("/p/App.xcodeproj/project.pbxproj", kProjectFile);
     m_files.addFile("/p/Main.m",
                     "NSLocalizedString(@\"Anchor\", nil); NSLocalizedString(@\"Quay\", @\"Where it lies\");");
-    m_files.addFile("/p/Localizable.xcstrings", kCatalog);
+    m_files.addFile("/p/Localizable.xcstrings", kTablesCatalog);
   }
 
   /// Rows as "table key = source".
@@ -244,7 +244,7 @@ TEST_F(CatalogTablesTest, AnEditThatIsTakenBackLeavesEveryByte) {
   scan();
   edit("Anchor", "ru", "Якорёк");
   edit("Anchor", "ru", "Якорь");
-  EXPECT_EQ(saved(), kCatalog);
+  EXPECT_EQ(saved(), kTablesCatalog);
 }
 
 TEST_F(CatalogTablesTest, AVariationIsWrittenBelowItsKey) {
@@ -274,7 +274,7 @@ TEST_F(CatalogTablesTest, AStaleKeyWhoseTextsAreRemovedGoes) {
 }
 
 TEST_F(CatalogTablesTest, AMistakeIsReportedAndNothingIsWritten) {
-  m_files.addFile("/p/Localizable.xcstrings", replaced(kCatalog, "\"version\"", "version"));
+  m_files.addFile("/p/Localizable.xcstrings", replaced(kTablesCatalog, "\"version\"", "version"));
   scan();
   EXPECT_EQ(problems(), Lines{"/p/Localizable.xcstrings strings-syntax 52"});
   edit("Anchor", "ru", "x");
@@ -297,7 +297,7 @@ TEST_F(CatalogTablesTest, StringsFilesOfTheSameTableAreReadTooAndReported) {
 TEST_F(CatalogTablesTest, ACatalogOfInterfaceFilesBelongsToTheDirectoryAroundItsLproj) {
   m_files.addFile("/p/App.xcodeproj/project.pbxproj",
                   replaced(kProjectFile, "Localizable.xcstrings", "mul.lproj/Main.xcstrings"));
-  m_files.addFile("/p/mul.lproj/Main.xcstrings", kCatalog);
+  m_files.addFile("/p/mul.lproj/Main.xcstrings", kTablesCatalog);
   const Lines rows = scan();
   EXPECT_EQ(std::count(rows.begin(), rows.end(), "Main GM = GM"), 1);
   EXPECT_EQ(m_result.languagesList->size(), 2U);
