@@ -36,13 +36,13 @@ _glossmill_cli_command() {
       arguments=(directory)
       ;;
     export)
-      options=(-h --help -q --quiet --log -v --verbose --rules --package --table -l --language -u --untranslated -o --output -n --dry-run)
-      values=('--rules=one:classic|xcode' '--package=file' '--table=other' '-l=language' '--language=language' '-o=file' '--output=file')
+      options=(-h --help -q --quiet --log -v --verbose --rules --package --table -l --language --format --bom -u --untranslated -o --output -n --dry-run)
+      values=('--rules=one:classic|xcode' '--package=file' '--table=other' '-l=language' '--language=language' '--format=one:text|po|csv|tsv|xliff|xliff2|xcloc' '-o=file' '--output=file')
       arguments=(directory)
       ;;
     import)
-      options=(-h --help -q --quiet --log -v --verbose --rules --package --table -l --language -n --dry-run --json --allow --max-dropped --wait)
-      values=('--rules=one:classic|xcode' '--package=file' '--table=other' '-l=language' '--language=language' '--allow=one:incomplete|outside|changed|no-copy' '--max-dropped=other' '--wait=other')
+      options=(-h --help -q --quiet --log -v --verbose --rules --package --table -l --language --format --only --use-fuzzy -n --dry-run --json --allow --max-dropped --wait)
+      values=('--rules=one:classic|xcode' '--package=file' '--table=other' '-l=language' '--language=language' '--format=one:text|po|csv|tsv|xliff|xliff2|xcloc' '--only=one:new|changed' '--allow=one:incomplete|outside|changed|no-copy' '--max-dropped=other' '--wait=other')
       arguments=(directory file)
       ;;
     fill)

@@ -82,9 +82,9 @@ class Recipe(unittest.TestCase):
 
     def remove_berths(self):
         strings = self.project / "Resources/de.lproj/Localizable.strings"
-        text = strings.read_text(encoding="utf-8")
+        text = strings.read_text(encoding="utf-16")
         self.assertIn('\n"Berths" = ', text)
-        strings.write_text(re.sub(r'\n"Berths" = .*', "", text), encoding="utf-8")
+        strings.write_text(re.sub(r'\n"Berths" = .*', "", text), encoding="utf-16")
 
     def check_steps(self, steps):
         """Runs the steps that check; the others need the server."""
@@ -127,18 +127,18 @@ class Recipe(unittest.TestCase):
         hook.write_text(text, encoding="utf-8")
         hook.chmod(0o755)
         strings = self.project / "Resources/de.lproj/Localizable.strings"
-        good = strings.read_text(encoding="utf-8")
+        good = strings.read_text(encoding="utf-16")
         broken = re.sub(r'("Receipt for %@" = ").*?"', r'\1Quittung für %d"', good)
         self.assertNotEqual(broken, good)
-        strings.write_text(broken, encoding="utf-8")
+        strings.write_text(broken, encoding="utf-16")
         self.assertIn("[format]", self.git("commit", "-qam", "Break it", code=1))
         # What is not about to be committed does not matter.
         (self.project / "notes.txt").write_text("Ahoy\n", encoding="utf-8")
         self.git("add", "notes.txt")
         self.git("commit", "-qm", "Take a note")
-        strings.write_text(good + "\n", encoding="utf-8")
+        strings.write_text(good + "\n", encoding="utf-16")
         self.git("add", ".")
-        strings.write_text(broken, encoding="utf-8")
+        strings.write_text(broken, encoding="utf-16")
         self.git("commit", "-qm", "Add a line")
 
 
