@@ -54,7 +54,7 @@ class FileReading {
   virtual Result<std::unique_ptr<ByteReader>> open(const FileUrl& file) = 0;
   /// Regular files that are going to be opened next, in this order, and not those that were named before. A hint: a
   /// disk may read them ahead.
-  virtual void expect(std::vector<FileUrl> /*files*/) {}
+  virtual void expect(std::vector<FileUrl>&& /*files*/) {}
 };
 
 /// Gives a long text piece by piece, each valid until the next is asked for, cut between characters; the empty piece is

@@ -72,7 +72,7 @@ bool ReadAhead::hasNothingLeft() const {
 }
 
 /// Whatever was expected before and not opened is not wanted any more.
-void ReadAhead::expect(std::vector<FileUrl> files) {
+void ReadAhead::expect(std::vector<FileUrl>&& files) {
   m_filesAlone += files.size();
   if (!startThread()) return;
   Lock lock(m_mutex);

@@ -38,7 +38,7 @@ class ReadAhead : public FileReading {
   EntryKind kindOf(const FileUrl& url) override { return m_files.kindOf(url); }
   std::optional<FileIdentity> identityOf(const FileUrl& url) override { return m_files.identityOf(url); }
   Result<std::unique_ptr<ByteReader>> open(const FileUrl& file) override;
-  void expect(std::vector<FileUrl> files) override;
+  void expect(std::vector<FileUrl>&& files) override;
 
   static constexpr std::size_t kFilesAlone = 64;          ///< expected before the thread starts
   static constexpr std::size_t kLargestFile = 96 * 1024;  ///< bytes

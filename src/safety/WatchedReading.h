@@ -42,7 +42,7 @@ class WatchedReading : public FileReading {
   EntryKind kindOf(const FileUrl& url) override;
   std::optional<FileIdentity> identityOf(const FileUrl& url) override { return m_files.identityOf(url); }
   Result<std::unique_ptr<ByteReader>> open(const FileUrl& file) override;
-  void expect(std::vector<FileUrl> files) override { m_files.expect(std::move(files)); }
+  void expect(std::vector<FileUrl>&& files) override { m_files.expect(std::move(files)); }
 
  private:
   bool isStillListed(const FileUrl& url);

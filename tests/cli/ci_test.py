@@ -117,8 +117,20 @@ class Recipe(unittest.TestCase):
         self.assertEqual(run.returncode, code, run.stdout + run.stderr)
         return run.stdout + run.stderr
 
+    def make_small_project(self):
+        """Without a mistake."""
+        self.project = self.folder / "Small"
+        for name, text in (("App.xcodeproj/project.pbxproj", "{ A = { path = main.m; }; }\n"),
+                           ("main.m", 'NSLocalizedString(@"Receipt for %@", @"");\n'),
+                           ("de.lproj/Localizable.strings", '"Receipt for %@" = "Quittung für %@";\n')):
+            file = self.project / name
+            file.parent.mkdir(parents=True, exist_ok=True)
+            file.write_text(text, encoding="utf-8")
+        return self.project / "de.lproj/Localizable.strings"
+
     def test_the_hook_keeps_a_mistake_out_of_a_commit_and_nothing_else(self):
         text, = texts("Before a commit", "sh")
+        strings = self.make_small_project()
         self.git("init", "-q")
         self.git("add", ".")
         self.git("commit", "-qm", "Begin")
@@ -126,19 +138,17 @@ class Recipe(unittest.TestCase):
         hook.parent.mkdir(exist_ok=True)
         hook.write_text(text, encoding="utf-8")
         hook.chmod(0o755)
-        strings = self.project / "Resources/de.lproj/Localizable.strings"
-        good = strings.read_text(encoding="utf-16")
-        broken = re.sub(r'("Receipt for %@" = ").*?"', r'\1Quittung für %d"', good)
-        self.assertNotEqual(broken, good)
-        strings.write_text(broken, encoding="utf-16")
+        good = strings.read_text(encoding="utf-8")
+        broken = good.replace("für %@", "für %d")
+        strings.write_text(broken, encoding="utf-8")
         self.assertIn("[format]", self.git("commit", "-qam", "Break it", code=1))
         # What is not about to be committed does not matter.
         (self.project / "notes.txt").write_text("Ahoy\n", encoding="utf-8")
         self.git("add", "notes.txt")
-        self.git("commit", "-qm", "Take a note")
-        strings.write_text(good + "\n", encoding="utf-16")
+        self.git("commit", "-qm", "Take a note", "notes.txt")
+        strings.write_text(good + "\n", encoding="utf-8")
         self.git("add", ".")
-        strings.write_text(broken, encoding="utf-16")
+        strings.write_text(broken, encoding="utf-8")
         self.git("commit", "-qm", "Add a line")
 
 

@@ -72,7 +72,7 @@ class InMemoryFiles : public Files {
   EntryKind kindOf(const FileUrl& url) override;
   std::optional<FileIdentity> identityOf(const FileUrl& url) override;
   Result<std::unique_ptr<ByteReader>> open(const FileUrl& file) override;
-  void expect(std::vector<FileUrl> files) override {
+  void expect(std::vector<FileUrl>&& files) override {
     if (onExpect) onExpect(files);
   }
   Outcome createDirectory(const FileUrl& directory, bool intermediate) override;
