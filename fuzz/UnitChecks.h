@@ -28,7 +28,7 @@ inline KeyedTexts keyedTexts(const ExchangeDocument& document) {
 }
 
 /// Reads the bytes. What was read is what comes back after it was written, but for what the writer says it left out.
-inline void checkReader(std::string_view bytes, Result<ExchangeDocument> (*read)(std::string text),
+inline void checkReader(std::string_view bytes, Result<ExchangeDocument> (*read)(const std::string& text),
                         WrittenExchange (*write)(const ExchangeDocument& document, const ExchangeWish& wish)) {
   const Result<std::string> text = decodeText(bytes);
   if (!text) return;

@@ -46,7 +46,7 @@ struct ExchangeFormat {
   WrittenExchange (*write)(const ExchangeDocument& document, const ExchangeWish& wish) = nullptr;
   /// Takes a whole text. Parts that are wrong by themselves are among the rejected lines; a text that is not well
   /// formed is an error that names the line.
-  Result<ExchangeDocument> (*read)(std::string text) = nullptr;
+  Result<ExchangeDocument> (*read)(const std::string& text) = nullptr;
 };
 
 /// The formats of the core; the first is the program's own text, which is taken without a choice.

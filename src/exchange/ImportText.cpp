@@ -41,7 +41,7 @@ std::map<std::string, std::string> sortedTable(ImportTable table) {
   return sorted;
 }
 
-Result<ExchangeDocument> readExportText(std::string text) {
+Result<ExchangeDocument> readExportText(const std::string& text) {
   ExchangeDocument document;
   document.languages = {""};
   for (auto& [key, translation] : sortedTable(importTable(text))) {

@@ -22,6 +22,6 @@ ImportTable importTable(std::string_view text);
 std::map<std::string, std::string> sortedTable(ImportTable table);
 
 /// The same as units, in the order of their keys. Never fails.
-Result<ExchangeDocument> readExportText(std::string text);
+Result<ExchangeDocument> readExportText(const std::string& text);
 
 }  // namespace glossmill

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,7 +17,7 @@ struct PoEntry {
   std::optional<std::string> id;
   std::optional<std::string> plural;
   std::optional<std::string> text;
-  std::optional<std::string> pluralTexts[10];
+  std::array<std::optional<std::string>, 10> pluralTexts;
 
   bool isPlural() const { return plural || pluralTexts[0]; }
   bool isComplete() const { return id && (text || pluralTexts[0]); }
@@ -29,7 +30,7 @@ struct PoEntry {
     if (keyword == "msgstr") return &text;
     const bool isNumbered = keyword.size() == 9 && keyword.starts_with("msgstr[") && keyword.back() == ']';
     if (!isNumbered || keyword[7] < '0' || keyword[7] > '9') return nullptr;
-    return &pluralTexts[keyword[7] - '0'];
+    return &pluralTexts[static_cast<std::size_t>(keyword[7] - '0')];
   }
 };
 

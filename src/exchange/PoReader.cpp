@@ -187,7 +187,7 @@ class Reader {
 
 }  // namespace
 
-Result<ExchangeDocument> readPo(std::string text) {
+Result<ExchangeDocument> readPo(const std::string& text) {
   return Reader(text).read();
 }
 

@@ -102,11 +102,11 @@ Result<ExchangeDocument> readSheet(std::string_view text, std::string_view separ
 
 }  // namespace
 
-Result<ExchangeDocument> readCsv(std::string text) {
+Result<ExchangeDocument> readCsv(const std::string& text) {
   return readSheet(text, ",;\t");
 }
 
-Result<ExchangeDocument> readTsv(std::string text) {
+Result<ExchangeDocument> readTsv(const std::string& text) {
   return readSheet(text, "\t;,");
 }
 

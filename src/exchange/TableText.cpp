@@ -99,7 +99,7 @@ ImportTable tableTextImport(std::string_view text) {
   return texts;
 }
 
-Result<ExchangeDocument> readTableText(std::string text) {
+Result<ExchangeDocument> readTableText(const std::string& text) {
   ExchangeDocument document;
   document.languages = {""};
   for (auto& [tableAndKey, translation] : sortedTable(tableTextImport(text))) {

@@ -21,6 +21,6 @@ void appendTableBlock(std::string& text, const ExchangeUnit& unit);
 ImportTable tableTextImport(std::string_view text);
 
 /// The same as units, in the order of their keys. Never fails.
-Result<ExchangeDocument> readTableText(std::string text);
+Result<ExchangeDocument> readTableText(const std::string& text);
 
 }  // namespace glossmill

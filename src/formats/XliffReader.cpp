@@ -154,14 +154,14 @@ class Reader {
 
 }  // namespace
 
-Result<ExchangeDocument> readXliff(std::string text) {
+Result<ExchangeDocument> readXliff(const std::string& text) {
   Result<XmlSurvey> survey = checkXml(text, {"trans-unit", "bin-unit", "unit"});
   if (!survey) return survey.error();
   // White space counts where nothing else stands, and beside tags inside of texts; elsewhere it would only cost room.
   const unsigned white = survey.value().hasShortNames ? pugi::parse_ws_pcdata : pugi::parse_ws_pcdata_single;
   pugi::xml_document document;
   const pugi::xml_parse_result parsed =
-      document.load_buffer_inplace(text.data(), text.size(), kFlags | white, pugi::encoding_utf8);
+      document.load_buffer(text.data(), text.size(), kFlags | white, pugi::encoding_utf8);
   if (!parsed) return Error{std::string("The XML cannot be read: ") + parsed.description() + "."};
   const pugi::xml_node root = childNamed(document, "xliff");
   if (!root) return Error{"line 1: The outermost element is not <xliff>."};
