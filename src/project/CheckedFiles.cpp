@@ -12,8 +12,8 @@ std::optional<FileEntries> entriesOf(const CheckedFile& file, FileReading& files
     const Result<std::string> text = readText(files, file.url);
     return text ? std::optional(classicEntries(text.value())) : std::nullopt;
   }
-  Result<std::string> bytes = readBytes(files, file.url);
-  return bytes ? std::optional(xcodeEntries(std::move(bytes.value()), file.encoding)) : std::nullopt;
+  const Result<std::string> bytes = readBytes(files, file.url);
+  return bytes ? std::optional(xcodeEntries(bytes.value(), file.encoding)) : std::nullopt;
 }
 
 CheckedFiles::CheckedFiles(const CheckedProject& project) {

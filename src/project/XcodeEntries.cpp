@@ -1,14 +1,13 @@
 #include "project/XcodeEntries.h"
 
-#include <utility>
 
 #include "xcode/PlaceCounter.h"
 #include "xcode/StringsDocument.h"
 
 namespace glossmill {
 
-FileEntries xcodeEntries(std::string bytes, std::optional<std::uint32_t> encoding) {
-  const StringsDocument document(std::move(bytes), encoding ? encodingOfNumber(*encoding) : std::nullopt);
+FileEntries xcodeEntries(std::string_view bytes, std::optional<std::uint32_t> encoding) {
+  const StringsDocument document(bytes, encoding ? encodingOfNumber(*encoding) : std::nullopt);
   FileEntries file;
   file.entries.reserve(document.entries().size());
   PlaceCounter counter(document.text());

@@ -12,7 +12,7 @@ using Lines = std::vector<std::string>;
 
 Lines entriesOf(std::string bytes, std::optional<std::uint32_t> encoding = std::nullopt) {
   Lines lines;
-  const FileEntries file = xcodeEntries(std::move(bytes), encoding);
+  const FileEntries file = xcodeEntries(bytes, encoding);
   for (const FileEntry& entry : file.entries) {
     lines.push_back(std::to_string(entry.line) + ":" + std::to_string(entry.column) + " " +
                     std::string(entry.key.view()) + "=" + std::string(entry.value.view()));
