@@ -1,6 +1,5 @@
 #include "project/XcodeEntries.h"
 
-
 #include "xcode/PlaceCounter.h"
 #include "xcode/StringsDocument.h"
 
