@@ -1,8 +1,9 @@
 #pragma once
 
-#include <compare>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <tuple>
 
 #include "checks/Finding.h"
 #include "checks/PlacedFinding.h"
@@ -19,7 +20,14 @@ struct Acceptance {
   std::optional<std::string> source;
   std::optional<std::string> translation;
 
-  auto operator<=>(const Acceptance&) const = default;
+  bool operator==(const Acceptance&) const = default;
+  bool operator<(const Acceptance& other) const { return parts() < other.parts(); }
+
+ private:
+  using Text = const std::optional<std::string>&;
+  std::tuple<std::string_view, std::string_view, std::string_view, Check, Text, Text> parts() const {
+    return {table, key, language, check, source, translation};
+  }
 };
 
 /// What would accept the finding; nothing for one that is about no string.
