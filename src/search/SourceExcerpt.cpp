@@ -124,7 +124,7 @@ Result<std::vector<ExcerptLine>> readExcerpt(FileReading& files, const SourcePla
                                              std::optional<FileEncoding> otherwise, std::uint32_t linesAround) {
   Result<std::string> bytes = readBytes(files, place.file);
   if (!bytes) return bytes.error();
-  const Result<DecodedFile> file = textOfFile(std::move(bytes.value()), otherwise);
+  const Result<DecodedFile> file = textOfFile(bytes.value(), otherwise);
   if (!file) return file.error();
   return excerptOf(file.value().text, place.line, place.column, linesAround);
 }

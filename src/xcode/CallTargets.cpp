@@ -1,7 +1,7 @@
 #include "xcode/CallTargets.h"
 
 #include <algorithm>
-#include <compare>
+#include <tuple>
 
 namespace glossmill {
 
@@ -26,7 +26,9 @@ struct Nearness {
   std::size_t steps = static_cast<std::size_t>(-1);
   std::size_t preference = 0;
   std::uint32_t table = 0;
-  auto operator<=>(const Nearness&) const = default;
+  bool operator<(const Nearness& other) const {
+    return std::tie(steps, preference, table) < std::tie(other.steps, other.preference, other.table);
+  }
 };
 
 template <typename Highest>

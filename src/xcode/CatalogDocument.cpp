@@ -12,22 +12,22 @@
 
 namespace glossmill {
 
-CatalogDocument::CatalogDocument(std::string bytes) {
-  decode(std::move(bytes));
+CatalogDocument::CatalogDocument(std::string_view bytes) {
+  decode(bytes);
   if (m_error) return;
   readTree();
   findKeys();
 }
 
-void CatalogDocument::decode(std::string bytes) {
+void CatalogDocument::decode(std::string_view bytes) {
   if (bytes.size() > std::numeric_limits<std::uint32_t>::max() / 4) {
     m_error = {{1, 1}, "The file is too long."};
     return;
   }
-  const std::string_view valid = std::string_view(bytes).substr(0, validUtf8Prefix(bytes));
+  const std::string_view valid = bytes.substr(0, validUtf8Prefix(bytes));
   const bool isUtf8 = detectEncoding(bytes).encoding == TextEncoding::Utf8;
   const TextPlace place = isUtf8 ? placeOf(valid, valid.size()) : TextPlace{1, 1};
-  Result<DecodedFile> file = textOfFile(std::move(bytes), std::nullopt);
+  Result<DecodedFile> file = textOfFile(bytes, std::nullopt);
   if (file) {
     m_file = std::move(file.value());
   } else {

@@ -42,7 +42,7 @@ class CatalogDocument {
     bool operator==(const RepeatedKey&) const = default;
   };
 
-  explicit CatalogDocument(std::string bytes);
+  explicit CatalogDocument(std::string_view bytes);
   // The tree looks at the text.
   CatalogDocument(const CatalogDocument&) = delete;
   CatalogDocument& operator=(const CatalogDocument&) = delete;
@@ -62,7 +62,7 @@ class CatalogDocument {
   std::vector<RepeatedKey> repeatedKeys() const;
 
  private:
-  void decode(std::string bytes);
+  void decode(std::string_view bytes);
   void readTree();
   void checkStructure();
   void findKeys();

@@ -106,7 +106,7 @@ void CatalogReading::read(TableList::Table& table) {
     m_input.listener.happened(StringsFileUnread{file, bytes.error()});
     return report(file, {0, 0}, "strings-unread", bytes.error().sentence);
   }
-  auto document = std::make_unique<CatalogDocument>(std::move(bytes.value()));
+  auto document = std::make_unique<CatalogDocument>(bytes.value());
   m_input.listener.happened(StringsFileRead{file, countOfUnits(*document)});
   const bool hasMistake = document->error().has_value();
   if (hasMistake) report(file, document->error()->place, "strings-syntax", document->error()->sentence);

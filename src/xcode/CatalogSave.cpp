@@ -64,7 +64,7 @@ std::map<std::string, EditedCatalog> gatherEdits(const SaveInput& input) {
 Result<NewCatalog> contentOf(const EditedCatalog& catalog, FileReading& files) {
   Result<std::string> bytes = readBytes(files, catalog.file);
   if (!bytes) return bytes.error();
-  const CatalogDocument document(std::move(bytes.value()));
+  const CatalogDocument document(bytes.value());
   if (document.error()) {
     return Error{formatText("It has a mistake in line %@ and is not written before that is mended: %@",
                             {std::to_string(document.error()->place.line), document.error()->sentence})};
