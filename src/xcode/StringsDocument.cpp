@@ -79,11 +79,12 @@ void StringsDocument::decode(std::string_view bytes, std::optional<FileEncoding>
     return;
   }
   std::optional<Result<DecodedFile>> declared = textOfDeclaredXml(bytes);
-  Result<DecodedFile> file = declared ? *std::move(declared) : textOfFile(bytes, otherwise);
+  const bool isDeclared = declared.has_value();
+  Result<DecodedFile> file = isDeclared ? *std::move(declared) : textOfFile(bytes, otherwise);
   if (file) {
     m_file = std::move(file.value());
   } else {
-    m_error = {declared ? TextPlace{1, 1} : placeOfUndecodable(bytes), file.error().sentence};
+    m_error = {isDeclared ? TextPlace{1, 1} : placeOfUndecodable(bytes), file.error().sentence};
   }
 }
 
