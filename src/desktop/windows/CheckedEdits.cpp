@@ -37,7 +37,7 @@ QVariant CheckedEdits::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || row >= m_edits.size()) return {};
   if (role == Qt::DisplayRole) return text(m_edits[row], index.column());
   if (role == Qt::ToolTipRole) return toolTipText(text(m_edits[row], index.column()));
-  if (role == Qt::CheckStateRole && index.column() == EditLanguage) {
+  if (role == Qt::CheckStateRole && index.column() == LanguageColumn) {
     return m_checked[row] ? Qt::Checked : Qt::Unchecked;
   }
   return {};
@@ -46,11 +46,11 @@ QVariant CheckedEdits::data(const QModelIndex& index, int role) const {
 QString CheckedEdits::text(const Edit& edit, int column) const {
   const TableRow* row = edit.record->tableRow();
   switch (column) {
-    case EditLanguage:
+    case LanguageColumn:
       return cellText(edit.language.text());
-    case EditTable:
+    case TableColumn:
       return row ? cellText(row->table->id) : QString();
-    case EditKey:
+    case KeyColumn:
       return cellText(edit.record->name());
     default:
       return cellText(edit.before.value_or(""));
@@ -58,7 +58,7 @@ QString CheckedEdits::text(const Edit& edit, int column) const {
 }
 
 bool CheckedEdits::setData(const QModelIndex& index, const QVariant& value, int role) {
-  if (role != Qt::CheckStateRole || index.column() != EditLanguage) return false;
+  if (role != Qt::CheckStateRole || index.column() != LanguageColumn) return false;
   const auto row = static_cast<std::size_t>(index.row());
   const bool checked = value.toInt() == Qt::Checked;
   if (m_checked[row] != checked) checked ? ++m_checkedCount : --m_checkedCount;
@@ -78,7 +78,7 @@ QVariant CheckedEdits::headerData(int section, Qt::Orientation orientation, int 
 
 Qt::ItemFlags CheckedEdits::flags(const QModelIndex& index) const {
   const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-  return index.column() == EditLanguage ? flags | Qt::ItemIsUserCheckable : flags;
+  return index.column() == LanguageColumn ? flags | Qt::ItemIsUserCheckable : flags;
 }
 
 }  // namespace glossmill

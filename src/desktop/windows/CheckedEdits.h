@@ -11,7 +11,7 @@ namespace glossmill {
 /// Edits to choose from, each with a check mark: language, table, key, and the text that is there.
 class CheckedEdits : public QAbstractTableModel {
  public:
-  enum Column { EditLanguage, EditTable, EditKey, EditText, kColumns };
+  enum Column { LanguageColumn, TableColumn, KeyColumn, TextColumn };
 
   /// All of them are checked at first.
   CheckedEdits(std::vector<Edit> edits, const Bundle& bundle);
@@ -21,7 +21,9 @@ class CheckedEdits : public QAbstractTableModel {
   void checkAll(bool checked);
 
   int rowCount(const QModelIndex& parent = QModelIndex()) const override;
-  int columnCount(const QModelIndex& parent = QModelIndex()) const override { return parent.isValid() ? 0 : kColumns; }
+  int columnCount(const QModelIndex& parent = QModelIndex()) const override {
+    return parent.isValid() ? 0 : kColumnCount;
+  }
   QVariant data(const QModelIndex& index, int role) const override;
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
@@ -29,6 +31,8 @@ class CheckedEdits : public QAbstractTableModel {
 
  private:
   QString text(const Edit& edit, int column) const;
+
+  static constexpr int kColumnCount = TextColumn + 1;
 
   const std::vector<Edit> m_edits;
   const Bundle& m_bundle;

@@ -49,9 +49,9 @@ void UnusedEntriesWindow::setUpTable() {
   QHeaderView& header = *m_table->horizontalHeader();
   header.setHighlightSections(false);
   header.setStretchLastSection(true);
-  header.resizeSection(CheckedEdits::EditLanguage, 110);
-  header.resizeSection(CheckedEdits::EditTable, 180);
-  header.resizeSection(CheckedEdits::EditKey, 260);
+  header.resizeSection(CheckedEdits::LanguageColumn, 110);
+  header.resizeSection(CheckedEdits::TableColumn, 180);
+  header.resizeSection(CheckedEdits::KeyColumn, 260);
   auto* space = new QShortcut(QKeySequence(Qt::Key_Space), m_table, nullptr, nullptr, Qt::WidgetShortcut);
   connect(space, &QShortcut::activated, this, [this] { switchSelected(); });
 }
