@@ -9,11 +9,11 @@
 namespace glossmill {
 namespace {
 
-using Lines = std::vector<std::string>;
+using EntryLines = std::vector<std::string>;
 
 /// "line:column key=value"
-Lines entriesOf(std::string_view text) {
-  Lines lines;
+EntryLines entriesOf(std::string_view text) {
+  EntryLines lines;
   const FileEntries file = classicEntries(text);
   for (const FileEntry& entry : file.entries) {
     lines.push_back(std::to_string(entry.line) + ":" + std::to_string(entry.column) + " " +
@@ -23,8 +23,8 @@ Lines entriesOf(std::string_view text) {
 }
 
 /// "line:column text"
-Lines rejectedOf(std::string_view text) {
-  Lines lines;
+EntryLines rejectedOf(std::string_view text) {
+  EntryLines lines;
   const FileEntries file = classicEntries(text);
   for (const FileEntry& line : file.rejected) {
     lines.push_back(std::to_string(line.line) + ":" + std::to_string(line.column) + " " + std::string(line.key.view()));
@@ -33,34 +33,35 @@ Lines rejectedOf(std::string_view text) {
 }
 
 TEST(ClassicEntries, StandWhereTheirFirstQuoteIs) {
-  EXPECT_EQ(entriesOf("\"a\" = \"1\";\n\n  \"b\"=\"2\"\n"), (Lines{"1:1 a=1", "3:3 b=2"}));
-  EXPECT_EQ(entriesOf("\"a\" = \"1\""), Lines{"1:1 a=1"});
-  EXPECT_EQ(entriesOf(""), Lines());
+  EXPECT_EQ(entriesOf("\"a\" = \"1\";\n\n  \"b\"=\"2\"\n"), (EntryLines{"1:1 a=1", "3:3 b=2"}));
+  EXPECT_EQ(entriesOf("\"a\" = \"1\""), EntryLines{"1:1 a=1"});
+  EXPECT_EQ(entriesOf(""), EntryLines());
 }
 
 TEST(ClassicEntries, CountLinesAndColumnsOfTheTextWithItsComments) {
-  EXPECT_EQ(entriesOf("/* one\n two */\n\"a\" = \"1\";\n/* x */ \"b\" = \"2\";\n"), (Lines{"3:1 a=1", "4:9 b=2"}));
-  EXPECT_EQ(entriesOf("// a line\n\"a\" = \"1\"; // behind\n\"b\" = \"2\";\n"), (Lines{"2:1 a=1"}));
-  EXPECT_EQ(entriesOf("/* \"quoted\" */ \"a\" = \"1\";\n"), Lines{"1:16 a=1"});
+  EXPECT_EQ(entriesOf("/* one\n two */\n\"a\" = \"1\";\n/* x */ \"b\" = \"2\";\n"), (EntryLines{"3:1 a=1", "4:9 b=2"}));
+  EXPECT_EQ(entriesOf("// a line\n\"a\" = \"1\"; // behind\n\"b\" = \"2\";\n"), (EntryLines{"2:1 a=1"}));
+  EXPECT_EQ(entriesOf("/* \"quoted\" */ \"a\" = \"1\";\n"), EntryLines{"1:16 a=1"});
 }
 
 TEST(ClassicEntries, CountColumnsInUtf16Units) {
-  EXPECT_EQ(entriesOf("/* \xF0\x9F\x9A\xA2\xC3\xA4 */ \"a\" = \"1\";\n"), Lines{"1:11 a=1"});
+  EXPECT_EQ(entriesOf("/* \xF0\x9F\x9A\xA2\xC3\xA4 */ \"a\" = \"1\";\n"), EntryLines{"1:11 a=1"});
 }
 
 TEST(ClassicEntries, ComeInTheOrderOfTheFileAndAgainWhenTheyAreRepeated) {
-  EXPECT_EQ(entriesOf("\"b\" = \"1\";\n\"a\" = \"2\";\n\"b\" = \"3\";\n"), (Lines{"1:1 b=1", "2:1 a=2", "3:1 b=3"}));
+  EXPECT_EQ(entriesOf("\"b\" = \"1\";\n\"a\" = \"2\";\n\"b\" = \"3\";\n"),
+            (EntryLines{"1:1 b=1", "2:1 a=2", "3:1 b=3"}));
 }
 
 TEST(ClassicEntries, RejectedLinesHaveTheirPlace) {
-  EXPECT_EQ(rejectedOf("\"a\" = \"1\";\n/* c */ junk\n  more\n"), (Lines{"2:8  junk", "3:1   more"}));
-  EXPECT_EQ(rejectedOf("\"a\" = \"1\";\n"), Lines());
+  EXPECT_EQ(rejectedOf("\"a\" = \"1\";\n/* c */ junk\n  more\n"), (EntryLines{"2:8  junk", "3:1   more"}));
+  EXPECT_EQ(rejectedOf("\"a\" = \"1\";\n"), EntryLines());
 }
 
 TEST(ClassicEntries, AKeyWithoutAValueIsARejectedLineAndShiftsNoValues) {
   constexpr std::string_view kText = "\"a\" = \"1\";\n\"b\" \"2\";\n\"c\" = \"3\";\n\"d\" = 4;\n";
-  EXPECT_EQ(entriesOf(kText), (Lines{"1:1 a=1", "3:1 c=3"}));
-  EXPECT_EQ(rejectedOf(kText), (Lines{"2:1 b", "4:1 d"}));
+  EXPECT_EQ(entriesOf(kText), (EntryLines{"1:1 a=1", "3:1 c=3"}));
+  EXPECT_EQ(rejectedOf(kText), (EntryLines{"2:1 b", "4:1 d"}));
 }
 
 /// Each entry's place holds its key between quotes, whatever stands around.

@@ -7,11 +7,11 @@
 namespace glossmill {
 namespace {
 
-using Lines = std::vector<std::string>;
+using FindingLines = std::vector<std::string>;
 
 /// "place severity check language key: sentence"
-Lines linesOf(const std::vector<PlacedFinding>& findings) {
-  Lines lines;
+FindingLines linesOf(const std::vector<PlacedFinding>& findings) {
+  FindingLines lines;
   for (const PlacedFinding& finding : findings) {
     std::string line = finding.file;
     line += ":" + std::to_string(finding.line) + ":" + std::to_string(finding.column) + " ";
@@ -45,8 +45,8 @@ TEST_F(ProjectFindings, WhatIsMissingStandsAtItsFirstCall) {
   m_project.addLanguage("fr", "\"Flood tide\" = \"Flot\"");
   m_project.addLanguage("de", "\"Ebb\" = \"Ebbe\"");
   m_project.open();
-  EXPECT_EQ(linesOf(findings()), (Lines{"Main.m:1:1 error missing fr Ebb: There is no translation.",
-                                        "Main.m:2:1 error missing de Flood tide: There is no translation."}));
+  EXPECT_EQ(linesOf(findings()), (FindingLines{"Main.m:1:1 error missing fr Ebb: There is no translation.",
+                                               "Main.m:2:1 error missing de Flood tide: There is no translation."}));
 }
 
 TEST_F(ProjectFindings, AreThoseOfTheWantedLanguagesAndChecks) {
@@ -57,21 +57,23 @@ TEST_F(ProjectFindings, AreThoseOfTheWantedLanguagesAndChecks) {
   m_project.open();
   EXPECT_EQ(findings().size(), 3U);
   EXPECT_EQ(linesOf(findings({.checks = {}, .languages = {LanguageCode("fr")}})),
-            (Lines{"Main.m:1:1 error missing fr The ebb tide is here: There is no translation."}));
-  EXPECT_EQ(linesOf(findings({.checks = {Check::Identical}, .languages = {}})),
-            (Lines{"it.lproj/Localizable.strings:1:1 info identical it The ebb tide is here: The translation is the "
-                   "source text."}));
+            (FindingLines{"Main.m:1:1 error missing fr The ebb tide is here: There is no translation."}));
+  EXPECT_EQ(
+      linesOf(findings({.checks = {Check::Identical}, .languages = {}})),
+      (FindingLines{"it.lproj/Localizable.strings:1:1 info identical it The ebb tide is here: The translation is the "
+                    "source text."}));
 }
 
 TEST_F(ProjectFindings, AboutATextStandAtItsEntryOfWhichTheLastCounts) {
   m_project.addString("%d files");
   m_project.addLanguage("de", "/* a\n */\n\"%d files\" = \"%d Dateien\";\n\n /* b */ \"%d files\" = \"%@ Dateien\";\n");
   m_project.open();
-  EXPECT_EQ(linesOf(findings()),
-            (Lines{"de.lproj/Localizable.strings:5:10 error format de %d files: “%@” takes another type than “%d” of "
-                   "the source text.",
-                   "de.lproj/Localizable.strings:5:10 error duplicate de %d files: The key stands on line 3 already, "
-                   "with another text; the last one counts."}));
+  EXPECT_EQ(
+      linesOf(findings()),
+      (FindingLines{"de.lproj/Localizable.strings:5:10 error format de %d files: “%@” takes another type than “%d” of "
+                    "the source text.",
+                    "de.lproj/Localizable.strings:5:10 error duplicate de %d files: The key stands on line 3 already, "
+                    "with another text; the last one counts."}));
 }
 
 TEST_F(ProjectFindings, TellOfWhatTheReaderLeftOut) {
@@ -82,12 +84,13 @@ TEST_F(ProjectFindings, TellOfWhatTheReaderLeftOut) {
                                "NSLocalizedString(@\"comment\", nil);\n  NSLocalizedString(title)");
   addProjectFile("en");
   m_project.open();
-  EXPECT_EQ(linesOf(findings()),
-            (Lines{"Other.m:1:1 info not-literal  : The call was not taken: its comment is no literal.",
-                   "Other.m:2:3 info not-literal  : The call was not taken: its key is no literal.",
-                   "de.lproj/Localizable.strings:2:1 error malformed de : The line is no entry that can be read: "
-                   "“nonsense”.",
-                   "de.lproj/Localizable.strings:3:1 info unused de Formerly: No source names the entry."}));
+  EXPECT_EQ(
+      linesOf(findings()),
+      (FindingLines{"Other.m:1:1 info not-literal  : The call was not taken: its comment is no literal.",
+                    "Other.m:2:3 info not-literal  : The call was not taken: its key is no literal.",
+                    "de.lproj/Localizable.strings:2:1 error malformed de : The line is no entry that can be read: "
+                    "“nonsense”.",
+                    "de.lproj/Localizable.strings:3:1 info unused de Formerly: No source names the entry."}));
 }
 
 TEST_F(ProjectFindings, TellOfFilesThatCannotBeRead) {
@@ -96,7 +99,7 @@ TEST_F(ProjectFindings, TellOfFilesThatCannotBeRead) {
   m_project.host.files.failOpening(stringsFileOf("de"), "It is locked.");
   m_project.open();
   EXPECT_EQ(linesOf(findings({.checks = {Check::Malformed}, .languages = {}})),
-            (Lines{"de.lproj/Localizable.strings:0:0 error malformed de : It is locked."}));
+            (FindingLines{"de.lproj/Localizable.strings:0:0 error malformed de : It is locked."}));
 }
 
 TEST_F(ProjectFindings, CompareWithTheDevelopmentRegionOfTheProjectFile) {
@@ -201,21 +204,22 @@ TEST_F(XcodeFindings, StandAtEntriesAndCalls) {
   addFile("en.lproj/Localizable.strings", "\"k\" = \"%d files\";\n\"never called\" = \"x\";\n");
   addFile("de.lproj/Localizable.strings", "\n \"k\" = \"Dateien\";\n\"k\" = \"Dateien\";");
   addFile("fr.lproj/Localizable.strings", "\"never called\" = ;");
-  EXPECT_EQ(linesOf(findings()),
-            (Lines{"a.m:2:3 error missing fr k: There is no translation.",
-                   "a.m:3:3 info not-literal  : The key is no literal: title.",
-                   "de.lproj/Localizable.strings:3:1 error format de k: “%d” of the source text is missing.",
-                   "de.lproj/Localizable.strings:3:1 warning duplicate de k: The key stands on line 2 already, with "
-                   "the same text.",
-                   "en.lproj/Localizable.strings:2:1 info unused en never called: No source names the entry.",
-                   "fr.lproj/Localizable.strings:1:18 error malformed fr : A text is missing behind “=”."}));
+  EXPECT_EQ(
+      linesOf(findings()),
+      (FindingLines{"a.m:2:3 error missing fr k: There is no translation.",
+                    "a.m:3:3 info not-literal  : The key is no literal: title.",
+                    "de.lproj/Localizable.strings:3:1 error format de k: “%d” of the source text is missing.",
+                    "de.lproj/Localizable.strings:3:1 warning duplicate de k: The key stands on line 2 already, with "
+                    "the same text.",
+                    "en.lproj/Localizable.strings:2:1 info unused en never called: No source names the entry.",
+                    "fr.lproj/Localizable.strings:1:18 error malformed fr : A text is missing behind “=”."}));
 }
 
 TEST_F(XcodeFindings, WhatNobodyCallsStandsInTheDevelopmentLanguage) {
   addFile("en.lproj/Main.strings", "\n\"5.title\" = \"Zoom\";");
   addFile("de.lproj/Main.strings", "");
   EXPECT_EQ(linesOf(findings()),
-            (Lines{"en.lproj/Main.strings:2:1 error missing de 5.title: There is no translation."}));
+            (FindingLines{"en.lproj/Main.strings:2:1 error missing de 5.title: There is no translation."}));
 }
 
 TEST_F(XcodeFindings, AreThoseOfTheWantedTables) {
@@ -223,10 +227,11 @@ TEST_F(XcodeFindings, AreThoseOfTheWantedTables) {
     addFile("en.lproj/" + name + ".strings", "\"5.title\" = \"Zoom %@\"; \"5.title\" = \"Zoom %@\";");
     addFile("de.lproj/" + name + ".strings", "\"5.title\" = \"Zoomen\";");
   }
-  EXPECT_EQ(linesOf(findings({.checks = {}, .languages = {}, .tables = {"Other"}})),
-            (Lines{"de.lproj/Other.strings:1:1 error format de 5.title: “%@” of the source text is missing.",
-                   "en.lproj/Other.strings:1:24 warning duplicate en 5.title: The key stands on line 1 already, with "
-                   "the same text."}));
+  EXPECT_EQ(
+      linesOf(findings({.checks = {}, .languages = {}, .tables = {"Other"}})),
+      (FindingLines{"de.lproj/Other.strings:1:1 error format de 5.title: “%@” of the source text is missing.",
+                    "en.lproj/Other.strings:1:24 warning duplicate en 5.title: The key stands on line 1 already, with "
+                    "the same text."}));
 }
 
 }  // namespace

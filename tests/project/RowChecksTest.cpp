@@ -9,10 +9,10 @@
 namespace glossmill {
 namespace {
 
-using Lines = std::vector<std::string>;
+using FindingLines = std::vector<std::string>;
 
-Lines sentencesOf(const std::vector<Finding>& findings) {
-  Lines lines;
+FindingLines sentencesOf(const std::vector<Finding>& findings) {
+  FindingLines lines;
   for (const Finding& finding : findings) lines.push_back(sentenceOf(finding));
   return lines;
 }
@@ -38,10 +38,10 @@ class RowChecksWhileTyping : public testing::Test {
 };
 
 TEST_F(RowChecksWhileTyping, FindWhatIsWrongWithATextThatIsNotStoredYet) {
-  EXPECT_EQ(sentencesOf(found("%d files", "%d Dateien")), Lines());
-  EXPECT_EQ(sentencesOf(found("%d files", "Dateien")), Lines{"“%d” of the source text is missing."});
-  EXPECT_EQ(sentencesOf(found("%d files", std::nullopt)), Lines{"There is no translation."});
-  EXPECT_EQ(sentencesOf(found("count", "%d")), Lines{"“%d” of the source text is missing."});
+  EXPECT_EQ(sentencesOf(found("%d files", "%d Dateien")), FindingLines());
+  EXPECT_EQ(sentencesOf(found("%d files", "Dateien")), FindingLines{"“%d” of the source text is missing."});
+  EXPECT_EQ(sentencesOf(found("%d files", std::nullopt)), FindingLines{"There is no translation."});
+  EXPECT_EQ(sentencesOf(found("count", "%d")), FindingLines{"“%d” of the source text is missing."});
 }
 
 TEST_F(RowChecksWhileTyping, MarkSpecifiersInBothTexts) {
@@ -55,14 +55,14 @@ TEST_F(RowChecksWhileTyping, AreWhatTheWholeProjectHas) {
   const RowChecks checks(m_project.project(), m_settings);
   const auto all =
       projectFindings(checkedProject(m_project.project(), m_settings), m_settings, {}, m_project.host.files);
-  Lines ofRows;
+  FindingLines ofRows;
   for (const char* key : {"count", "%d files"}) {
     for (const char* code : {"de", "en"}) {
-      const Lines lines = sentencesOf(checks.findings(*m_project.record(key), LanguageCode(code)));
+      const FindingLines lines = sentencesOf(checks.findings(*m_project.record(key), LanguageCode(code)));
       ofRows.insert(ofRows.end(), lines.begin(), lines.end());
     }
   }
-  Lines ofProject;
+  FindingLines ofProject;
   for (const PlacedFinding& finding : all) ofProject.push_back(finding.sentence);
   std::sort(ofRows.begin(), ofRows.end());
   std::sort(ofProject.begin(), ofProject.end());
@@ -72,15 +72,15 @@ TEST_F(RowChecksWhileTyping, AreWhatTheWholeProjectHas) {
 
 TEST_F(RowChecksWhileTyping, FollowTheSourceTextWhenThatIsEdited) {
   m_project.setTranslation("count", "en", "nothing");
-  EXPECT_EQ(sentencesOf(found("count", "nichts")), Lines());
+  EXPECT_EQ(sentencesOf(found("count", "nichts")), FindingLines());
 }
 
 TEST_F(RowChecksWhileTyping, LeaveOutWhatTheProjectLeavesOut) {
   m_settings.ignored = {{Check::Format, "", "", "*.lproj", ""}};
-  EXPECT_EQ(sentencesOf(found("%d files", "Dateien")), Lines());
+  EXPECT_EQ(sentencesOf(found("%d files", "Dateien")), FindingLines());
   m_settings.ignored.clear();
   m_settings.accepted = {{"", "%d files", "de", Check::Format, "%d files", "Dateien"}};
-  EXPECT_EQ(sentencesOf(found("%d files", "Dateien")), Lines());
+  EXPECT_EQ(sentencesOf(found("%d files", "Dateien")), FindingLines());
   EXPECT_EQ(found("%d files", "Die Dateien").size(), 1U);
   m_settings.severities = {{Check::Format, Severity::Info}};
   EXPECT_EQ(found("%d files", "Die Dateien").front().severity, Severity::Info);
