@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <functional>
 #include <mutex>
 #include <optional>
@@ -88,7 +89,7 @@ class InMemorySaveDisk : public SaveDisk {
   int m_killed = 0;
   bool m_isDead = false;
   Failure m_failure;
-  int m_asked = 0;
+  std::atomic<int> m_asked = 0;
   Failure m_questionFailure;
   std::set<std::string> m_locked;  ///< paths of directories
   int m_written = 0;
