@@ -79,7 +79,7 @@ void JobTrials::exportAll() {
 std::size_t JobTrials::importAll() {
   Result<std::string> text = readText(m_files, m_exported);
   if (!text) giveUp("cannot read " + m_exported.path());
-  Result<ExchangeDocument> document = readExportText(std::move(text.value()));
+  Result<ExchangeDocument> document = readExportText(text.value());
   if (!document) giveUp("cannot take in " + m_exported.path());
   const ImportPlan plan(std::move(document.value()), m_project.stringList(), {{m_added->code()}});
   m_project.edits().beginEdits();

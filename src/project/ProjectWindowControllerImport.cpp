@@ -21,9 +21,9 @@ void ProjectWindowController::importFile(const ImportRequest& request) {
 }
 
 Result<ImportPlan> ProjectWindowController::planImport(const ImportRequest& request) const {
-  Result<std::string> text = readExchangeText(m_host.files, request.file);
+  const Result<std::string> text = readExchangeText(m_host.files, request.file);
   if (!text) return text.error();
-  Result<ExchangeDocument> document = formatFor(request.format, request.file).read(std::move(text.value()));
+  Result<ExchangeDocument> document = formatFor(request.format, request.file).read(text.value());
   if (!document) return document.error();
   Result<ImportLanguageChoice> choice =
       importLanguages(document.value().languages, *languagesList(), request.language.get());
