@@ -6,7 +6,6 @@
 #include "xcode/CatalogOrder.h"
 #include "xcode/JsonText.h"
 #include "xcode/SourceText.h"
-#include "xcode/XmlText.h"
 
 namespace glossmill {
 
@@ -46,15 +45,13 @@ TreeEditor::TreeEditor(const ValueTree& tree, std::string_view lineEnd)
   m_root->node = 0;
   m_root->isObject = true;
   const ValueNode& root = tree.node(0);
-  if (!isJson()) m_unit = "\t";
   if (root.first == ValueTree::kNone) return;
   const ValueNode& first = tree.node(root.first);
   const std::string lead = leadOf(root);
   m_unit = lead.find_first_of("\r\n") == std::string::npos ? std::string() : indentOfLine(first.member);
   if (lead.find_first_of("\r\n") == std::string::npos) m_lineEnd.clear();
   const std::size_t nameEnd = first.nameEnd + 1;
-  if (isJson()) m_colon = std::string(tree.text().substr(nameEnd, first.begin - nameEnd));
-  if (!isJson() && m_unit.empty() && !m_lineEnd.empty()) m_unit = "\t";
+  m_colon = std::string(tree.text().substr(nameEnd, first.begin - nameEnd));
 }
 
 TreeEditor::~TreeEditor() = default;
@@ -116,9 +113,7 @@ TreeEditor::Item* TreeEditor::make(const TreePath& path) {
 }
 
 bool TreeEditor::setText(const TreePath& path, std::string_view text) {
-  if (isJson()) return setSpelled(path, '"' + escapeJson(text) + '"');
-  const std::optional<std::string> escaped = escapeXml(text);
-  return escaped && setSpelled(path, "<string>" + *escaped + "</string>");
+  return setSpelled(path, '"' + escapeJson(text) + '"');
 }
 
 bool TreeEditor::setSpelled(const TreePath& path, std::string spelled) {
@@ -195,7 +190,7 @@ std::string TreeEditor::leadOf(const ValueNode& object) const {
 }
 
 std::size_t TreeEditor::behindComma(const ValueNode& member) const {
-  return isJson() ? m_tree.text().find(',', member.end) + 1 : member.end;
+  return m_tree.text().find(',', member.end) + 1;
 }
 
 /// Of members that stay each keeps what stands in front of it; what follows the last one stays at the end.
@@ -203,7 +198,7 @@ void TreeEditor::writeObject(std::string& out, const Item& item) const {
   const ValueNode& object = m_tree.node(item.node);
   const bool keepsAny = std::any_of(item.members.begin(), item.members.end(),
                                     [](const auto& member) { return member->node != ValueTree::kNone; });
-  if (!keepsAny || object.isEmptyTag) return writeNew(out, item, indentOfLine(object.begin));
+  if (!keepsAny) return writeNew(out, item, indentOfLine(object.begin));
   const std::string_view text = m_tree.text();
   const std::string lead = leadOf(object);
   const std::string indent = lead.substr(lead.find_last_of("\r\n") + 1);
@@ -219,9 +214,9 @@ void TreeEditor::writeObject(std::string& out, const Item& item) const {
   for (const auto& member : item.members) {
     const bool isLast = member == item.members.back();
     if (member->node == ValueTree::kNone) {
-      out += lead.empty() && !isJson() ? std::string() : lead;
+      out += lead;
       writeMember(out, *member, indent);
-      if (!isLast && isJson()) out += ',';
+      if (!isLast) out += ',';
       continue;
     }
     const ValueNode& node = m_tree.node(member->node);
@@ -229,18 +224,13 @@ void TreeEditor::writeObject(std::string& out, const Item& item) const {
     out += text.substr(begin, node.begin - begin);
     write(out, *member);
     const bool wasLast = node.next == ValueTree::kNone;
-    if (!isLast && isJson()) out += wasLast ? "," : text.substr(node.end, behindComma(node) - node.end);
+    if (!isLast) out += wasLast ? "," : text.substr(node.end, behindComma(node) - node.end);
   }
   out += text.substr(lastEnd, object.end - lastEnd);
 }
 
 void TreeEditor::writeMember(std::string& out, const Item& item, const std::string& indent) const {
-  if (isJson()) {
-    out += '"' + escapeJson(item.name) + '"' + m_colon;
-  } else {
-    out += "<key>" + escapeXml(item.name).value_or("") + "</key>";
-    if (!m_lineEnd.empty()) out += m_lineEnd + indent;
-  }
+  out += '"' + escapeJson(item.name) + '"' + m_colon;
   if (item.spelled) {
     out += *item.spelled;
   } else {
@@ -252,19 +242,15 @@ void TreeEditor::writeMember(std::string& out, const Item& item, const std::stri
 void TreeEditor::writeNew(std::string& out, const Item& item, const std::string& indent) const {
   const bool hasLines = !m_lineEnd.empty();
   const std::string inside = hasLines ? indent + m_unit : std::string();
-  if (item.members.empty() && !isJson()) {
-    out += "<dict/>";
-    return;
-  }
-  out += isJson() ? "{" : "<dict>";
+  out += '{';
   if (item.members.empty() && hasLines) out += m_lineEnd;
   for (const auto& member : item.members) {
     if (hasLines) out += m_lineEnd + inside;
     writeMember(out, *member, inside);
-    if (isJson() && member != item.members.back()) out += ',';
+    if (member != item.members.back()) out += ',';
   }
   if (hasLines) out += m_lineEnd + indent;
-  out += isJson() ? "}" : "</dict>";
+  out += '}';
 }
 
 }  // namespace glossmill

@@ -29,7 +29,7 @@ class TreeEditor {
   /// Makes the objects on the way that are missing. False, and nothing changes, where something on the way is no
   /// object.
   bool setText(const TreePath& path, std::string_view text);
-  /// The same with a value that is spelled as the file's syntax has it.
+  /// The same with a value that is spelled as JSON has it.
   bool setSpelled(const TreePath& path, std::string spelled);
   /// With every repetition of its name, and with the objects around it that are empty then; the first `kept` names of
   /// the path stay. Nothing happens where there is no such member.
@@ -58,7 +58,6 @@ class TreeEditor {
   std::string indentOfLine(std::size_t at) const;
   std::string leadOf(const ValueNode& object) const;
   std::size_t behindComma(const ValueNode& member) const;
-  bool isJson() const { return m_tree.syntax() == TreeSyntax::Json; }
 
   const ValueTree& m_tree;
   std::string m_lineEnd;  ///< empty in a file without lines

@@ -1,28 +1,26 @@
 #include "xcode/ValueTree.h"
 
 #include "xcode/JsonText.h"
-#include "xcode/XmlText.h"
 
 namespace glossmill {
 
 namespace {
 
-std::string readSpelled(TreeSyntax syntax, std::string_view spelled, bool isPlain) {
-  if (isPlain) return std::string(spelled);
-  return syntax == TreeSyntax::Json ? unescapeJson(spelled) : unescapeXml(spelled);
+std::string readSpelled(std::string_view spelled, bool isPlain) {
+  return isPlain ? std::string(spelled) : unescapeJson(spelled);
 }
 
 }  // namespace
 
 std::string ValueTree::nameOf(Number number) const {
   const ValueNode& node = m_nodes[number];
-  return readSpelled(m_syntax, m_text.substr(node.nameBegin, node.nameEnd - node.nameBegin), node.isNamePlain);
+  return readSpelled(m_text.substr(node.nameBegin, node.nameEnd - node.nameBegin), node.isNamePlain);
 }
 
 std::string ValueTree::textOf(Number number) const {
   if (!isText(number)) return {};
   const ValueNode& node = m_nodes[number];
-  return readSpelled(m_syntax, m_text.substr(node.inner, node.innerEnd - node.inner), node.isPlain);
+  return readSpelled(m_text.substr(node.inner, node.innerEnd - node.inner), node.isPlain);
 }
 
 std::string_view ValueTree::spelled(Number number) const {

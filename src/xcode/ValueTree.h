@@ -9,8 +9,6 @@
 
 namespace glossmill {
 
-enum class TreeSyntax : std::uint8_t { Json, Xml };
-
 /// One value of a tree by its places in the text, and its name where it is a member of an object.
 struct ValueNode {
   enum class Kind : std::uint8_t {
@@ -24,11 +22,10 @@ struct ValueNode {
   Kind kind = Kind::Other;
   bool isPlain = true;          ///< a text reads as it is spelled
   bool isNamePlain = true;      ///< the same of the name
-  bool isEmptyTag = false;      ///< in XML: `<dict/>`, `<string/>`
-  std::uint32_t member = 0;     ///< where the name begins, with its quote or tag
-  std::uint32_t nameBegin = 0;  ///< of what stands between its quotes or tags
+  std::uint32_t member = 0;     ///< where the name begins, with its quote
+  std::uint32_t nameBegin = 0;  ///< of what stands between its quotes
   std::uint32_t nameEnd = 0;
-  std::uint32_t begin = 0;  ///< of the value, with its quote, brace or tag
+  std::uint32_t begin = 0;  ///< of the value, with its quote or brace
   std::uint32_t inner = 0;  ///< of what stands inside
   std::uint32_t innerEnd = 0;
   std::uint32_t end = 0;
@@ -36,7 +33,7 @@ struct ValueNode {
   std::uint32_t next = kNone;   ///< the next member of the same object
 };
 
-/// Objects inside one another with texts in them, as string catalogs and property lists hold them: values by their
+/// Objects inside one another with texts in them, as string catalogs hold them: values by their
 /// places in a text, which it does not own. Node 0 is the outermost value.
 class ValueTree {
  public:
@@ -45,11 +42,9 @@ class ValueTree {
   /// Deeper values are refused, so that nobody who walks through a tree runs out of stack.
   static constexpr std::size_t kMostLevels = 128;
 
-  explicit ValueTree(std::string_view text = {}, TreeSyntax syntax = TreeSyntax::Json)
-      : m_text(text), m_syntax(syntax) {}
+  explicit ValueTree(std::string_view text = {}) : m_text(text) {}
 
   std::string_view text() const { return m_text; }
-  TreeSyntax syntax() const { return m_syntax; }
   bool empty() const { return m_nodes.empty(); }
   const ValueNode& node(Number number) const { return m_nodes[number]; }
   bool isObject(Number number) const { return number != kNone && m_nodes[number].kind == ValueNode::Kind::Object; }
@@ -58,7 +53,7 @@ class ValueTree {
   std::string nameOf(Number number) const;
   /// "" for what is no text.
   std::string textOf(Number number) const;
-  /// As it is spelled, from its quote or tag to the other.
+  /// As it is spelled, from its quote or brace to the other.
   std::string_view spelled(Number number) const;
   /// The last member of the name, which counts; kNone where there is none, or no object.
   Number member(Number object, std::string_view name) const;
@@ -78,7 +73,6 @@ class ValueTree {
   bool isNamed(Number number, std::string_view name) const;
 
   std::string_view m_text;
-  TreeSyntax m_syntax;
   std::vector<ValueNode> m_nodes;
 };
 
