@@ -66,7 +66,7 @@ OpenedLanguage openFor(ProjectSession& session, const ImportOptions& options) {
 /// Says in detail what was done, or would be.
 void addDetails(const ImportOptions& options, ProjectSession& session) {
   const ImportPlan& plan = session.project().importPlan();
-  const ImportChecks checks = session.project().importChecks();
+  const RowChecks checks(session.project(), session.checks());
   mentionNotes(plan, options.file, options.language, session.console());
   if (options.writing.json) return session.addCounts("", importJson(plan, checks));
   if (!options.writing.dryRun) return mentionRejected(plan, session.console());

@@ -2,7 +2,6 @@
 
 #include "checks/CheckList.h"
 #include "cli/DisplayText.h"
-#include "text/Format.h"
 #include "text/PrintableText.h"
 #include "text/TextDifference.h"
 
@@ -15,8 +14,10 @@ std::string_view nameOf(ImportItem::Kind kind) {
   return kNames[static_cast<std::size_t>(kind)];
 }
 
-std::string sentenceOf(const Finding& finding) {
-  return formatText(sentenceOf(finding.kind), {finding.what, finding.other});
+/// Of what would be taken; nothing for a key that the project does not have.
+std::vector<Finding> findingsOf(const ImportItem& item, const RowChecks& checks) {
+  if (!item.edit.record) return {};
+  return checks.findings(*item.edit.record, item.edit.language, item.edit.after);
 }
 
 /// On one line: line breaks and tabs as they are typed elsewhere.
@@ -59,9 +60,9 @@ std::string headOf(const ImportItem& item) {
   return head + "\n";
 }
 
-Json findingsJson(const ImportItem& item, const ImportChecks& checks) {
+Json findingsJson(const ImportItem& item, const RowChecks& checks) {
   Json findings = Json::array();
-  for (const Finding& finding : checks.findingsOf(item)) {
+  for (const Finding& finding : findingsOf(item, checks)) {
     findings.push_back({{"check", entryOf(finding.check).name},
                         {"severity", nameOf(finding.severity)},
                         {"text", sentenceOf(finding)}});
@@ -73,7 +74,7 @@ Json lineJson(std::uint32_t line) {
   return line == 0 ? Json() : Json(line);
 }
 
-Json itemJson(const ImportItem& item, const ImportChecks& checks) {
+Json itemJson(const ImportItem& item, const RowChecks& checks) {
   return {{"kind", nameOf(item.kind)},
           {"language", item.edit.language.text()},
           {"table", item.table.empty() ? Json() : Json(item.table)},
@@ -92,13 +93,13 @@ std::string rejectedText(const RejectedLine& line) {
 
 }  // namespace
 
-std::string importListing(const ImportPlan& plan, const ImportChecks& checks, const Console& console) {
+std::string importListing(const ImportPlan& plan, const RowChecks& checks, const Console& console) {
   std::string text;
   for (const ImportItem& item : plan.items()) {
     if (item.kind == ImportItem::Kind::Unchanged) continue;
     text += headOf(item);
     if (item.changesSomething()) appendTexts(text, item.edit, console);
-    for (const Finding& finding : checks.findingsOf(item)) {
+    for (const Finding& finding : findingsOf(item, checks)) {
       text += "    " + std::string(nameOf(finding.severity)) + ": " + shown(sentenceOf(finding)) + " [" +
               std::string(entryOf(finding.check).name) + "]\n";
     }
@@ -107,7 +108,7 @@ std::string importListing(const ImportPlan& plan, const ImportChecks& checks, co
   return text;
 }
 
-Json importJson(const ImportPlan& plan, const ImportChecks& checks) {
+Json importJson(const ImportPlan& plan, const RowChecks& checks) {
   Json items = Json::array();
   for (const ImportItem& item : plan.items()) items.push_back(itemJson(item, checks));
   Json rejected = Json::array();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "checks/FormatCheck.h"
+#include "model/SourceText.h"
 #include "platform/ShownPath.h"
 #include "project/DevelopmentRegion.h"
 
@@ -58,20 +59,8 @@ TranslatedFrom translatedFrom(const FileUrl& directory, const ProjectOptions& op
   if (code.empty() && !tables.empty()) code = tables.front()->development.text();
   if (code.empty()) code = developmentRegionOf(projectFile);
   sources.language = LanguageCode(code);
-  sources.isLanguage = std::ranges::any_of(
-      languages, [code](const std::shared_ptr<Language>& language) { return language->iso639() == code; });
   sources.stringsFile = pathOfOnlyFile(directory, code, languages);
   return sources;
-}
-
-std::string sourceTextOf(const LocalizeString& record, const TranslatedFrom& sources) {
-  if (const TableRow* row = record.tableRow()) {
-    const bool isKnown = row->sourceText && !row->sourceText.view().empty();
-    return isKnown ? std::string(row->sourceText.view()) : record.name();
-  }
-  const std::optional<std::string_view> text =
-      sources.isLanguage ? record.languagesDict().find(sources.language) : std::nullopt;
-  return text && !text->empty() ? std::string(*text) : record.name();
 }
 
 std::optional<ExchangeUnit> UnitMaker::unitOf(const LocalizeString& record, std::int64_t number) const {
@@ -97,7 +86,7 @@ bool UnitMaker::isWanted(const LocalizeString& record) const {
 void UnitMaker::addDetails(ExchangeUnit& unit, const LocalizeString& record) const {
   const TableRow* row = record.tableRow();
   unit.file = row ? pathOfTableFile(*row->table, sources.directory) : sources.stringsFile;
-  unit.source = sourceTextOf(record, sources);
+  unit.source = sourceTextOf(record, sources.language);
   unit.places = placesOf(record, sources.directory);
   const FormatReading format = readFormat(unit.source);
   unit.isFormat = !format.uses.empty() && format.strays.empty();

@@ -17,16 +17,12 @@ namespace glossmill {
 struct TranslatedFrom {
   FileUrl directory;        ///< of the project
   LanguageCode language;    ///< the empty code where nobody knows it
-  bool isLanguage = false;  ///< the project has texts in it, which count where strings have no source text of their own
   std::string stringsFile;  ///< path of its strings file, for strings without a table
 };
 
 /// `projectFile` is the text of the project file; empty where there is none.
 TranslatedFrom translatedFrom(const FileUrl& directory, const ProjectOptions& options, std::string_view projectFile,
                               const LanguageArray& languages, const StringsTables& tables);
-
-/// What a string is translated from: its source text, or its key.
-std::string sourceTextOf(const LocalizeString& record, const TranslatedFrom& sources);
 
 /// Makes units of strings.
 struct UnitMaker {

@@ -11,7 +11,6 @@
 #include <vector>
 
 #include "model/ProjectContext.h"
-#include "project/ImportChecks.h"
 #include "project/ProjectParts.h"
 #include "project/Recovery.h"
 
@@ -236,8 +235,6 @@ class ProjectWindowController : public ProjectContext,
   Result<ImportPlan> planImport(const ImportRequest& request) const;
   /// Applies what is chosen as one step.
   void applyImport(const ImportPlan& plan);
-  /// Finds what is wrong with the texts of a plan.
-  ImportChecks importChecks() const;
   /// Background.
   void bgImportLanguage(const ImportRequest& request);
   void endImport();

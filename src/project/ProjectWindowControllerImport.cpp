@@ -75,13 +75,6 @@ void ProjectWindowController::applyImport(const ImportPlan& plan) {
   m_window.outlets.translationTextView->translationChanged();
 }
 
-ImportChecks ProjectWindowController::importChecks() const {
-  const std::string noText;
-  const std::optional<std::string>& file = projectFileData();
-  return {translatedFrom(m_projectDirectory, m_options, file ? *file : noText, *languagesList(), m_tables),
-          m_options.rules};
-}
-
 /// Closes the sheet by the way of the export, with no text to write, and deliberately (rule 54) leaves the batch of
 /// updates open.
 void ProjectWindowController::endCanceledImport(const ImportRequest& request) {

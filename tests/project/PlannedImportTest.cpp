@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "project/RowChecks.h"
 #include "support/TestProject.h"
 
 namespace glossmill {
@@ -63,11 +64,14 @@ TEST_F(PlannedImport, ChecksWhatItWouldTake) {
   addFile(kFrenchPo);
   const auto made = plan();
   ASSERT_TRUE(made);
-  const ImportChecks checks = m_test.project().importChecks();
-  const std::vector<Finding> findings = checks.findingsOf(made.value().items()[0]);
+  const RowChecks checks(m_test.project(), {});
+  const auto findingsOf = [&checks](const ImportItem& item) {
+    return checks.findings(*item.edit.record, item.edit.language, item.edit.after);
+  };
+  const std::vector<Finding> findings = findingsOf(made.value().items()[0]);
   ASSERT_EQ(findings.size(), 1U);
   EXPECT_EQ(findings.front().kind, FindingKind::ArgumentMissing);
-  EXPECT_TRUE(checks.findingsOf(made.value().items()[1]).empty());
+  EXPECT_TRUE(findingsOf(made.value().items()[1]).empty());
 }
 
 TEST_F(PlannedImport, SaysWhenTheFileIsForAnotherLanguageAndTakesTheOneThatWasAskedFor) {
