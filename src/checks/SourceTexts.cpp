@@ -37,6 +37,12 @@ bool isOnlyAName(std::string_view key, const EachTranslation& translations) {
   return argumentsOf(key).empty() && severalAgreeOnArguments(translations);
 }
 
+/// A text whose reading ended at a quote behind a backslash: the rest of it is not known.
+bool isCutOff(std::string_view raw) {
+  const std::size_t end = raw.find_last_not_of('\\') + 1;
+  return (raw.size() - end) % 2 == 1;
+}
+
 LanguageCode developmentOf(const CheckedProject& project, const LocalizeString& record) {
   return record.tableRow() ? record.tableRow()->table->development : project.sourceLanguage;
 }
@@ -68,8 +74,10 @@ class Columns {
 
 std::optional<std::string_view> sourceTextOf(const LocalizeString& record, std::string_view development,
                                              const EachTranslation& translations) {
-  if (!development.empty()) return development;
   const std::string_view key = record.name();
+  const std::string_view raw = development.empty() ? key : development;
+  if (!record.tableRow() && isCutOff(raw)) return std::nullopt;
+  if (!development.empty()) return development;
   if (record.tableRow()) {
     const StoredText text = record.tableRow()->sourceText;
     if (!text) return std::nullopt;

@@ -11,7 +11,8 @@ namespace glossmill {
 
 /// What a row's translations are compared with: `development`, its text in the language that is translated from; else
 /// what its table says; else its key, unless that is only a name: it has neither blank nor percent sign, or no
-/// specifier while several languages agree on some. Nothing where nobody knows. Valid as long as what it is taken from.
+/// specifier while several languages agree on some. Nothing where nobody knows, as of a text without a table that was
+/// cut off behind a backslash. Valid as long as what it is taken from.
 std::optional<std::string_view> sourceTextOf(const LocalizeString& record, std::string_view development,
                                              const EachTranslation& translations);
 

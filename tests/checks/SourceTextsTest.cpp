@@ -46,6 +46,19 @@ TEST(SourceTexts, AKeyIsOnlyANameWhenSeveralLanguagesAgreeOnSpecifiersThatItLack
   EXPECT_EQ(sources.of(4), Text("50 % off"));
 }
 
+TEST(SourceTexts, AreNotKnownWhereOneWasCutOffAtAQuoteBehindABackslash) {
+  ProjectOfRows rows({"en", "de"});
+  rows.add("name in use", {{"en", "The name \\"}, {"de", "Der Name „%@“ ist vergeben"}});
+  rows.add("Berth \\", {{"de", "Platz"}});
+  rows.add("a backslash", {{"en", "Type \\\\"}, {"de", "Tippe \\\\"}});
+  rows.addToTable("C:\\", "Drive C:\\", {{"en", "Drive C:\\"}});
+  const SourceTexts sources(rows.project);
+  EXPECT_EQ(sources.of(0), Text());
+  EXPECT_EQ(sources.of(1), Text());
+  EXPECT_EQ(sources.of(2), Text("Type \\\\"));
+  EXPECT_EQ(sources.of(3), Text("Drive C:\\"));
+}
+
 TEST(SourceTexts, OfATableAreWhatItSays) {
   ProjectOfRows rows({"en", "de"});
   rows.addToTable("5.title", "Zoom", {{"de", "Zoomen"}});
