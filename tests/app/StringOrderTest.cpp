@@ -22,12 +22,7 @@ class StringOrderTest : public testing::Test {
   }
 
   using Keys = std::vector<std::string>;
-  Keys shown() {
-    const auto& rows = m_test.project().stringController();
-    Keys keys;
-    for (std::size_t row = 0; row < rows.arrangedCount(); ++row) keys.push_back(rows.arrangedObject(row)->name());
-    return keys;
-  }
+  Keys shown() { return m_test.shownKeys(); }
   Keys by(SortKey key, bool descending = false) {
     m_order->sortBy(key, descending);
     return shown();

@@ -21,12 +21,7 @@ class StringSearchTest : public testing::Test {
   }
 
   using Keys = std::vector<std::string>;
-  Keys shown() {
-    const auto& rows = m_test.project().stringController();
-    Keys keys;
-    for (std::size_t row = 0; row < rows.arrangedCount(); ++row) keys.push_back(rows.arrangedObject(row)->name());
-    return keys;
-  }
+  Keys shown() { return m_test.shownKeys(); }
   Keys found(std::string_view text) {
     m_search->search(text);
     return shown();

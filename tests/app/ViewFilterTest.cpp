@@ -18,12 +18,7 @@ class ViewFilterTest : public testing::Test {
   }
 
   using Keys = std::vector<std::string>;
-  Keys shown() {
-    const auto& rows = m_test.project().stringController();
-    Keys keys;
-    for (std::size_t row = 0; row < rows.arrangedCount(); ++row) keys.push_back(rows.arrangedObject(row)->name());
-    return keys;
-  }
+  Keys shown() { return m_test.shownKeys(); }
   std::string selected() { return m_test.project().selectedString() ? m_test.project().selectedString()->name() : ""; }
   void showOnly(ViewPart part, const std::string& start) {
     m_view->set(part, [start](const LocalizeString& record) { return record.name().starts_with(start); });

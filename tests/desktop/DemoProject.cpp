@@ -56,9 +56,13 @@ QByteArray DemoProject::read(const QString& name) const {
   return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
 }
 
+QByteArray DemoProject::folderProjectFile() {
+  return kFolderProject;
+}
+
 void DemoProject::giveTables() const {
   write(QStringLiteral(".glossmill.json"), R"({"rules": "xcode"})");
-  write(QStringLiteral("Demo.xcodeproj/project.pbxproj"), kFolderProject);
+  write(QStringLiteral("Demo.xcodeproj/project.pbxproj"), folderProjectFile());
   write(QStringLiteral("App/Deck.m"),
         "NSLocalizedString(@\"Ebb\", @\"Falling\"); NSLocalizedString(@\"Flood\", @\"Rising\");\n"
         "NSLocalizedString(@\"Tide\", nil); NSLocalizedStringFromTable(@\"Sail\", @\"Menu\", nil);\n");

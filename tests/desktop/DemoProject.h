@@ -14,6 +14,9 @@ class DemoProject {
   QString directory() const { return m_directory.path() + QStringLiteral("/Demo"); }
   QString file(const QString& name) const { return directory() + QLatin1Char('/') + name; }
 
+  /// The text of a project file to which all belongs that lies in the folder App.
+  static QByteArray folderProjectFile();
+
   /// Writes a file of the project, and makes the directory that it lies in.
   void write(const QString& name, const QByteArray& bytes) const;
   QByteArray read(const QString& name) const;

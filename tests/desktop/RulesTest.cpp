@@ -5,24 +5,6 @@
 
 namespace glossmill {
 
-namespace {
-
-constexpr const char* kProjectFile = R"(// !$*UTF8*$!
-{
-  objects = {
-    P = { isa = PBXProject; mainGroup = G; targets = (T); developmentRegion = en; };
-    G = { isa = PBXGroup; children = (F); sourceTree = "<group>"; };
-    F = { isa = PBXFileSystemSynchronizedRootGroup; path = App; sourceTree = "<group>"; };
-    T = { isa = PBXNativeTarget; name = App; buildPhases = (TS, TR); fileSystemSynchronizedGroups = (F); };
-    TS = { isa = PBXSourcesBuildPhase; files = (); };
-    TR = { isa = PBXResourcesBuildPhase; files = (); };
-  };
-  rootObject = P;
-}
-)";
-
-}  // namespace
-
 /// What the window does with a project whose own file asks for xcode's rules.
 class RulesTest : public DesktopFixture {
   Q_OBJECT
@@ -138,7 +120,7 @@ class RulesTest : public DesktopFixture {
 
   void opensAPackageAsItsDirectoryWithThatPackage() {
     openByXcode();
-    demo().write(QStringLiteral("Other.xcodeproj/project.pbxproj"), kProjectFile);
+    demo().write(QStringLiteral("Other.xcodeproj/project.pbxproj"), DemoProject::folderProjectFile());
     startAnew();
     const QString package = demo().file(QStringLiteral("Demo.xcodeproj"));
     startWith(package);
@@ -222,7 +204,7 @@ class RulesTest : public DesktopFixture {
   }
 
   void writeProject() {
-    demo().write(QStringLiteral("Demo.xcodeproj/project.pbxproj"), kProjectFile);
+    demo().write(QStringLiteral("Demo.xcodeproj/project.pbxproj"), DemoProject::folderProjectFile());
     demo().write(QStringLiteral("App/Deck.m"),
                  "NSLocalizedString(@\"Two\\nlines\", nil); NSLocalizedString(@\"Say \\\"yes\\\"\", nil);");
     demo().write(QStringLiteral("App/en.lproj/Localizable.strings"),

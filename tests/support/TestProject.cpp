@@ -59,6 +59,13 @@ void TestProject::select(std::string_view key, std::string_view code) {
   ASSERT_EQ(project().selectedLanguage()->iso639(), code);
 }
 
+std::vector<std::string> TestProject::shownKeys() {
+  const ProjectWindowController::StringController& rows = project().stringController();
+  std::vector<std::string> keys;
+  for (std::size_t row = 0; row < rows.arrangedCount(); ++row) keys.push_back(rows.arrangedObject(row)->name());
+  return keys;
+}
+
 void TestProject::type(std::string_view text) {
   project().selectedString()->setTranslationForSelectedString(text, &project());
 }

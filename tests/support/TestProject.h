@@ -53,6 +53,8 @@ class TestProject {
   void setTranslation(std::string_view key, std::string_view code, std::string_view text);
   /// The keys of the string list in its order.
   std::vector<std::string> keys();
+  /// Of the rows that the string table shows, in its order.
+  std::vector<std::string> shownKeys();
   /// The bytes of a language's strings file; nothing when there is none.
   std::optional<std::string> savedFile(std::string_view code);
   std::vector<std::string> alertMessages() const;
